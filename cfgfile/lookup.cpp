@@ -1,0 +1,218 @@
+// The lookups: one key of one section of one file.
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+#include "cfgfile/line.h"
+#include "cfgfile/line_reader.h"
+#include "cfgfile/text.h"
+#include "common/codes.h"
+#include "sys_context/cfgfile.h"
+
+// kept as is: hosts may look at the brackets, but nothing here does.
+constinit char CFG_ssl = '[';
+constinit char CFG_ssr = ']';
+
+constinit int32_t CFG_section_line_no = 0;
+constinit int32_t CFG_key_line_no = 0;
+constinit int32_t CFG_key_lines = 0;
+
+namespace sys_context {
+namespace {
+
+struct CloseFile {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+bool IsBlankOrComment(std::string_view text) {
+  return text.empty() || text.front() == ';';
+}
+
+bool OpensSection(std::string_view text) {
+  return text.front() == '[' || text.front() == '{';
+}
+
+// kept as is: headers of one or two characters need no closing bracket.
+bool LacksClosingBracket(std::string_view header) {
+  return header.size() > 2 && header.back() != (header.front() == '[' ? ']' : '}');
+}
+
+// kept as is: the last character is cut off, whatever it is; so "[", "[]" and
+// "[a" all name the section "".
+std::string_view SectionName(std::string_view header) {
+  header.remove_suffix(1);
+  if (!header.empty()) {
+    header.remove_prefix(1);
+  }
+  return header;
+}
+
+// Reads up to the header of `section`. `header_position` follows the line
+// being read.
+int32_t FindSection(LineReader& lines, std::string_view section, int32_t& header_position) {
+  for (;;) {
+    lines.SkipLinesWithoutBracket();
+    header_position = lines.position();
+    std::string_view line;
+    if (const int32_t length = lines.Next(line); length < 0) {
+      return length == kLineReadError ? kReadError : kNoSection;
+    }
+    const std::string_view text = Trim(line);
+    if (IsBlankOrComment(text) || !OpensSection(text)) {
+      continue;
+    }
+    if (LacksClosingBracket(text)) {
+      return kSyntaxError;
+    }
+    if (SectionName(text) == section) {
+      CFG_section_line_no = lines.line_number();
+      return kOk;
+    }
+  }
+}
+
+// An entry of several lines, joined.
+class JoinedEntry {
+ public:
+  void Begin(std::string_view line) {
+    length_ = 0;
+    Append(line);
+  }
+
+  // Appends a line; if it ends in "+", without that.
+  bool Append(std::string_view line) {
+    continues_ = line.ends_with('+');
+    if (continues_) {
+      line.remove_suffix(1);
+    }
+    if (length_ + line.size() > kLongestLine) {
+      return false;
+    }
+    std::memcpy(text_ + length_, line.data(), line.size());
+    length_ += line.size();
+    return true;
+  }
+
+  bool continues() const { return continues_; }
+  std::string_view text() const { return {text_, length_}; }
+
+ private:
+  char text_[kLongestLine];
+  size_t length_ = 0;
+  bool continues_ = false;
+};
+
+// Joins the entry that begins with `first` and goes on in the following lines,
+// which are text whatever they hold and keep their leading blanks. The end of
+// the file ends the entry.
+int32_t JoinLines(LineReader& lines, std::string_view first, JoinedEntry& entry) {
+  entry.Begin(first);
+  while (entry.continues()) {
+    std::string_view line;
+    if (const int32_t length = lines.Next(line); length < 0) {
+      return length == kLineReadError ? kReadError : kOk;
+    }
+    ++CFG_key_lines;
+    if (!entry.Append(TrimRight(line))) {
+      return kEntryTooLong;
+    }
+  }
+  return kOk;
+}
+
+void CopyValue(std::string_view text, char* value) {
+  std::memcpy(value, text.data(), text.size());
+  value[text.size()] = '\0';
+}
+
+// Whether `text` is an entry, but certainly not of `key`: spares most entries
+// the splitting. One character tells, the last of the key, as the keys of a list
+// differ in their numbers.
+bool IsOtherEntry(std::string_view text, std::string_view key) {
+  const size_t length = key.size();
+  if (length == 0 || (text.size() >= length && text[length - 1] == key.back())) {
+    return false;
+  }
+  const size_t equal_sign = text.find('=');
+  return equal_sign != 0 && equal_sign != std::string_view::npos;
+}
+
+// Reads the entries of a section up to the one of `key`.
+int32_t FindKey(LineReader& lines, std::string_view key, char* value) {
+  JoinedEntry joined;
+  for (;;) {
+    std::string_view line;
+    if (const int32_t length = lines.Next(line); length < 0) {
+      return length == kLineReadError ? kReadError : kNoKey;
+    }
+    CFG_key_line_no = lines.line_number();
+    CFG_key_lines = 1;
+    std::string_view text = Trim(line);
+    if (IsBlankOrComment(text)) {
+      continue;
+    }
+    if (OpensSection(text)) {
+      return kNoKey;
+    }
+    if (text.back() == '+') {
+      if (const int32_t code = JoinLines(lines, text, joined); code != kOk) {
+        return code;
+      }
+      text = joined.text();
+    } else if (IsOtherEntry(text, key)) {
+      continue;
+    }
+    Entry entry;
+    if (SplitEntry(text, entry) != Split::kEntry) {
+      return kSyntaxError;
+    }
+    if (TrimRight(entry.key) == key) {
+      CopyValue(entry.value, value);
+      return kOk;
+    }
+  }
+}
+
+// `start` and `header_position` are null for a lookup from the top.
+int32_t LookUp(const char* file, const char* section, const char* key, char* value,
+               const int32_t* start, int32_t* header_position) {
+  CFG_section_line_no = 0;
+  CFG_key_line_no = 0;
+  CFG_key_lines = 0;
+  const File stream(std::fopen(file, "rb"));
+  if (stream == nullptr) {
+    return kNoFile;
+  }
+  std::setvbuf(stream.get(), nullptr, _IONBF, 0);  // the line reader has a buffer of its own
+  if (start != nullptr && std::fseek(stream.get(), *start, SEEK_SET) != 0) {
+    return kReadError;
+  }
+  LineReader lines(stream.get(), start != nullptr ? *start : 0);
+  int32_t position = 0;
+  const int32_t code = FindSection(lines, section, position);
+  if (header_position != nullptr) {
+    *header_position = position;
+  }
+  return code != kOk ? code : FindKey(lines, key, value);
+}
+
+}  // namespace
+}  // namespace sys_context
+
+int32_t CFG_get_key(const char* file, const char* section, const char* key, char* value) {
+  if (file == nullptr || section == nullptr || key == nullptr || value == nullptr) {
+    return sys_context::kNullArgument;
+  }
+  return sys_context::LookUp(file, section, key, value, nullptr, nullptr);
+}
+
+int32_t CFG_get_key_offset(const char* file, const char* section, const char* key, char* value,
+                           int32_t iOffsetIn, int32_t* piOffsetOut) {
+  if (file == nullptr || section == nullptr || key == nullptr || value == nullptr ||
+      piOffsetOut == nullptr) {
+    return sys_context::kNullArgument;
+  }
+  return sys_context::LookUp(file, section, key, value, &iOffsetIn, piOffsetOut);
+}

@@ -1,0 +1,81 @@
+// Splitting and trimming, for the lookups and as exported functions.
+#include "cfgfile/text.h"
+
+#include <cstring>
+
+#include "common/messages.h"
+#include "sys_context/cfgfile.h"
+
+namespace sys_context {
+
+Split SplitEntry(std::string_view text, Entry& entry) {
+  text = TrimLeft(text);
+  if (text.empty()) {
+    return Split::kEmpty;
+  }
+  if (text.front() == '=') {
+    return Split::kNoKey;
+  }
+  const size_t equal_sign = text.find('=');
+  if (equal_sign == std::string_view::npos) {
+    return Split::kNoEqualSign;
+  }
+  entry.key = {text.data(), equal_sign};
+  text.remove_prefix(equal_sign + 1);
+  entry.value = TrimLeft(text);
+  return Split::kEntry;
+}
+
+namespace {
+
+// Makes `part`, which lies within `text`, the whole of it.
+char* KeepOnly(char* text, std::string_view part) {
+  std::memmove(text, part.data(), part.size());
+  text[part.size()] = '\0';
+  return text;
+}
+
+}  // namespace
+}  // namespace sys_context
+
+using sys_context::Console;
+using sys_context::LowBits;
+
+int32_t split_key_val(char* text, char** key, char** value) {
+  if (text == nullptr || key == nullptr || value == nullptr) {
+    return static_cast<int32_t>(sys_context::Split::kEmpty);
+  }
+  sys_context::Entry entry;
+  const auto split = sys_context::SplitEntry(text, entry);
+  if (split == sys_context::Split::kEntry) {
+    *key = text + (entry.key.data() - text);
+    *value = text + (entry.value.data() - text);
+    (*key)[entry.key.size()] = '\0';
+  }
+  return static_cast<int32_t>(split);
+}
+
+char* ltrimstr(char* text) {
+  if (text == nullptr) {
+    Console("\r\nltrimstr err! dstr = 0x%x, sstr = 0x%x", LowBits(text), LowBits(text));
+    return text;
+  }
+  return sys_context::KeepOnly(text, sys_context::TrimLeft(text));
+}
+
+char* rtrimstr(char* text) {
+  if (text == nullptr) {
+    Console("\r\nrtrimstr err! dstr = 0x%x, sstr = 0x%x", LowBits(text), LowBits(text));
+    return text;
+  }
+  return sys_context::KeepOnly(text, sys_context::TrimRight(text));
+}
+
+char* alltrim(char* text) {
+  if (text == nullptr) {
+    // kept as is: names rtrim, a function that there is not.
+    Console("\r\nrtrim err! str = 0x%x", LowBits(text));
+    return text;
+  }
+  return sys_context::KeepOnly(text, sys_context::Trim(text));
+}

@@ -1,0 +1,34 @@
+// The library's return codes. Some numbers have several senses; each sense has a
+// name.
+#pragma once
+
+#include <cstdint>
+
+namespace sys_context {
+
+constexpr int32_t kOk = 0;
+
+// What a lookup in a definition file answers.
+constexpr int32_t kNoSection = -1;
+constexpr int32_t kNoKey = -2;
+constexpr int32_t kNoFile = -10;
+constexpr int32_t kReadError = -12;
+constexpr int32_t kSyntaxError = -14;
+constexpr int32_t kEntryTooLong = -22;
+
+// What loaders and queries answer.
+constexpr int32_t kNoWorkBuffer = -1;
+constexpr int32_t kNotRegistered = -1;
+constexpr int32_t kVersionNotSupported = -1;
+constexpr int32_t kEmptyPlace = -2;
+constexpr int32_t kNullArgument = -2;
+constexpr int32_t kNoTable = -10;
+constexpr int32_t kNoMemory = -27;
+constexpr int32_t kTooManyModules = -28;
+constexpr int32_t kNoSuchModule = -29;
+constexpr int32_t kTooManyVersions = -30;
+constexpr int32_t kKeyUnreadable = -31;
+constexpr int32_t kNoSuchName = -32;
+constexpr int32_t kTextTooLong = -33;
+
+}  // namespace sys_context

@@ -1,0 +1,243 @@
+// The kinds of module that the device knows: their loader and the queries.
+#include <algorithm>
+#include <cstring>
+
+#include "cfgfile/keys.h"
+#include "cfgfile/named_sections.h"
+#include "common/codes.h"
+#include "common/memory.h"
+#include "common/messages.h"
+#include "common/names.h"
+#include "common/numbers.h"
+#include "sys_context/context.h"
+
+constinit ModuleTypeList gstModuleTypeList = {};
+
+namespace sys_context {
+namespace {
+
+constexpr ListSection kModuleList = {
+    .section = "ModuleTypeList",
+    .count_key = "ModuleNum",
+    .entry_key = "Module",
+    .limit = MAX_SUPPORTED_MODULE_TYPE_NUM,
+    .above_limit_code = kTooManyModules,
+    .null_file = "\r\nddReadAllModuleInformation err!, strFileName = 0x%x",
+    .key_unreadable = "\r\nddReadAllModuleInformation err! iResult = %d, section = %s, key = %s",
+    .above_limit =
+        "\r\nddReadAllModuleInformation err! ulModuleTypeNum = %d, MAX_SUPPORTED_MODULE_TYPE_NUM = %d",
+    .no_memory = "\r\nddReadAllModuleInformation->malloc err! pModuleTypeArray = 0x%x",
+    .record_failed =
+        "\r\nddReadAllModuleInformation->ddReadOneModuleInformation err! iResult = %d, section = %s",
+};
+
+// kept as is: "Type" is reported in the words of the chassis loader.
+constexpr KeyMessage kTypeUnreadable =
+    "\r\nddReadOneModuleInformation err! iResult = %d, strSectionFrameNameBuf = %s, Key = %s";
+constexpr KeyMessage kUnreadable =
+    "\r\nddReadOneModuleInformation err! iResult = %d, section = %s, key = %s";
+
+int32_t ReadModule(const char* file, const char* section, ModuleInformation& module) {
+  Value value;
+  if (ReadKey(file, section, "Type", value, kTypeUnreadable) != kOk) {
+    return kKeyUnreadable;
+  }
+  module.ulModuleType = ParseUnsigned(value.text);
+  if (ReadKey(file, section, "Name", value, kUnreadable) != kOk) {
+    return kKeyUnreadable;
+  }
+  if (const uint32_t length = StoreName(value.text, module.acName, module.ulNameLen);
+      length > MAX_MODULE_NAME_LEN) {
+    Console("\r\nddReadOneModuleInformation err! ulNameLen = %d", length);
+    return kTextTooLong;
+  }
+  if (ReadKey(file, section, "Size", value, kUnreadable) != kOk) {
+    return kKeyUnreadable;
+  }
+  module.ulSize = ParseUnsigned(value.text);
+  return kOk;
+}
+
+// What every query checks before it looks into the list. Its messages show the
+// count, some a limit behind it.
+template <typename... Limit>
+int32_t CheckList(const Message<uint32_t, Limit...>& corrupt, const Message<uint32_t>& missing,
+                  std::type_identity_t<Limit>... limit) {
+  if (gstModuleTypeList.ulModuleTypeNum > MAX_SUPPORTED_MODULE_TYPE_NUM) {
+    Report(Gate::kDebug, corrupt, gstModuleTypeList.ulModuleTypeNum, limit...);
+    return kTooManyModules;
+  }
+  if (gstModuleTypeList.pModuleTypeArray == nullptr) {
+    Report(Gate::kDebug, missing, LowBits(gstModuleTypeList.pModuleTypeArray));
+    return kNoTable;
+  }
+  return kOk;
+}
+
+// The first module that fulfils `wanted`, or null; empty places are passed over.
+template <typename Wanted>
+const ModuleInformation* FindModule(Wanted wanted) {
+  ModuleInformation** const begin = gstModuleTypeList.pModuleTypeArray;
+  ModuleInformation** const end = begin + gstModuleTypeList.ulModuleTypeNum;
+  ModuleInformation** const found = std::find_if(begin, end, [&](const ModuleInformation* module) {
+    return module != nullptr && wanted(*module);
+  });
+  return found == end ? nullptr : *found;
+}
+
+constexpr Message<uint32_t, uint32_t> kNameByTypeCorrupt =
+    "\r\nddGetModuleNameByType err!, ulModuleTypeNum = %d, MAX_SUPPORTED_MODULE_TYPE_NUM = %d";
+constexpr Message<uint32_t> kNameByTypeMissing =
+    "\r\nddGetModuleNameByType err!, pModuleTypeArray = 0x%x";
+
+// kept as is: shows the boards' limit, not the one that was exceeded.
+constexpr Message<uint32_t, uint32_t> kTypeByNameCorrupt =
+    "\r\nddGetModuleTypeByName err!, ulModuleTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d";
+constexpr uint32_t kTypeByNameShownLimit = 100;
+constexpr Message<uint32_t> kTypeByNameMissing =
+    "\r\nddGetModuleTypeByName err!, pModuleTypeArray = 0x%x";
+
+// ddIsModuleInList and ddGetModuleSize walk the list alike.
+// kept as is: an empty place ends their walk, while the other queries pass over
+// it, and a missing list alone leaves their output untouched.
+struct StrictQuery {
+  Message<uint32_t> null_output;
+  Message<uint32_t> corrupt;
+  Message<uint32_t> missing;
+  Message<uint32_t, uint32_t, uint32_t> empty_place;
+};
+
+constexpr StrictQuery kIsModuleInList = {
+    .null_output = "\r\nddIsModuleInList err!, pulIsSupported = 0x%x",
+    .corrupt = "\r\nddIsModuleInList err! ulModuleTypeNum = %d",
+    .missing = "\r\nddIsModuleInList err!, pModuleTypeArray = 0x%x",
+    .empty_place =
+        "\r\nddIsModuleInList err! ulModuleTypeNum = %d, ulModuleTypeIndex = %d, pstModuleInformation = 0x%x",
+};
+
+constexpr StrictQuery kGetModuleSize = {
+    .null_output = "\r\nddGetModuleSize err!, pulSize = 0x%x",
+    .corrupt = "\r\nddGetModuleSize err! ulModuleTypeNum = %d",
+    .missing = "\r\nddGetModuleSize err!, pModuleTypeArray = 0x%x",
+    .empty_place =
+        "\r\nddGetModuleSize err! ulModuleTypeNum = %d, ulModuleTypeIndex = %d, pstModuleInformation = 0x%x",
+};
+
+// Stores `answer` of the first module of the type, or 0. Returns kNoSuchModule
+// when there is none.
+template <typename Output, typename Answer>
+int32_t AskStrictly(const StrictQuery& query, uint32_t type, Output* output, Answer answer) {
+  if (output == nullptr) {
+    Report(Gate::kDebug, query.null_output, LowBits(output));
+    return kNullArgument;
+  }
+  const int32_t code = CheckList(query.corrupt, query.missing);
+  if (code == kNoTable) {
+    return code;
+  }
+  *output = 0;
+  if (code != kOk) {
+    return code;
+  }
+  const uint32_t count = gstModuleTypeList.ulModuleTypeNum;
+  for (uint32_t i = 0; i < count; ++i) {
+    const ModuleInformation* const module = gstModuleTypeList.pModuleTypeArray[i];
+    if (module == nullptr) {
+      Report(Gate::kDebug, query.empty_place, count, i, LowBits(module));
+      return kEmptyPlace;
+    }
+    if (module->ulModuleType == type) {
+      *output = answer(*module);
+      return kOk;
+    }
+  }
+  return kNoSuchModule;
+}
+
+}  // namespace
+}  // namespace sys_context
+
+int32_t ddReadAllModuleInformation(const char* strFileName) {
+  return LoadNamedSections(sys_context::kModuleList, strFileName, gstModuleTypeList.ulModuleTypeNum,
+                           gstModuleTypeList.pModuleTypeArray, ddReadOneModuleInformation);
+}
+
+int32_t ddReadOneModuleInformation(const char* strFileName, const char* strModuleSection,
+                                   ModuleInformation** pModuleObjAddr) {
+  using namespace sys_context;
+  if (strFileName == nullptr || strModuleSection == nullptr || pModuleObjAddr == nullptr) {
+    Console(
+        "\r\nddReadOneModuleInformation err! strFileName = 0x%x, strModuleSection = 0x%x, pModuleObjAddr = 0x%x",
+        LowBits(strFileName), LowBits(strModuleSection), LowBits(pModuleObjAddr));
+    return kNullArgument;
+  }
+  *pModuleObjAddr = nullptr;
+  auto module = NewRecord<ModuleInformation>();
+  if (module == nullptr) {
+    Console("\r\nddReadOneModuleInformation->malloc err! pstModuleInformation = 0x%x",
+            LowBits(module.get()));
+    return kNoMemory;
+  }
+  const int32_t code = ReadModule(strFileName, strModuleSection, *module);
+  if (code == kOk) {
+    *pModuleObjAddr = module.release();
+  }
+  return code;
+}
+
+int32_t ddGetModuleNameByType(uint32_t ulModuleType, char* pcModuleName) {
+  using namespace sys_context;
+  if (pcModuleName == nullptr) {
+    DebugConsole("\r\nddGetModuleNameByType err!, pcModuleName = 0x%x", LowBits(pcModuleName));
+    return kNullArgument;
+  }
+  if (const int32_t code =
+          CheckList(kNameByTypeCorrupt, kNameByTypeMissing, MAX_SUPPORTED_MODULE_TYPE_NUM);
+      code != kOk) {
+    return code;
+  }
+  const ModuleInformation* const module = FindModule([=](const ModuleInformation& candidate) {
+    return candidate.ulModuleType == ulModuleType && candidate.ulNameLen <= MAX_MODULE_NAME_LEN;
+  });
+  if (module == nullptr) {
+    return kNoSuchModule;
+  }
+  std::memcpy(pcModuleName, module->acName, module->ulNameLen);
+  return kOk;
+}
+
+int32_t ddGetModuleTypeByName(const char* pcModuleName, uint32_t* pulModuleType) {
+  using namespace sys_context;
+  if (pcModuleName == nullptr || pulModuleType == nullptr) {
+    DebugConsole("\r\nddGetModuleTypeByName err!, pcModuleName = 0x%x, pulModuleType = 0x%x",
+                 LowBits(pcModuleName), LowBits(pulModuleType));
+    return kNullArgument;
+  }
+  if (const int32_t code = CheckList(kTypeByNameCorrupt, kTypeByNameMissing, kTypeByNameShownLimit);
+      code != kOk) {
+    return code;
+  }
+  const ModuleInformation* const module = FindModule([=](const ModuleInformation& candidate) {
+    return NameEquals(pcModuleName, candidate.acName, candidate.ulNameLen);
+  });
+  if (module == nullptr) {
+    return kNoSuchName;
+  }
+  *pulModuleType = module->ulModuleType;
+  return kOk;
+}
+
+int32_t ddIsModuleInList(uint32_t ulModuleType, uint32_t* pulIsSupported) {
+  using namespace sys_context;
+  const int32_t code = AskStrictly(kIsModuleInList, ulModuleType, pulIsSupported,
+                                   [](const ModuleInformation&) { return uint32_t{1}; });
+  // kept as is: a module that is not in the list is no failure here.
+  return code == kNoSuchModule ? kOk : code;
+}
+
+int32_t ddGetModuleSize(uint32_t ulModuleType, uint8_t* pulSize) {
+  // kept as is: the size leaves as one byte, and what exceeds that is cut.
+  return sys_context::AskStrictly(
+      sys_context::kGetModuleSize, ulModuleType, pulSize,
+      [](const ModuleInformation& module) { return static_cast<uint8_t>(module.ulSize); });
+}

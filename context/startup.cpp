@@ -1,0 +1,95 @@
+// Start-up: empties the tables and runs the loaders in their fixed order.
+#include <cstdio>
+#include <cstring>
+
+#include "common/codes.h"
+#include "common/memory.h"
+#include "common/messages.h"
+#include "sys_context/context.h"
+
+constinit int32_t ddDebugPrint = 0;
+
+// kept as is: names the copy in memory, which is not what the loaders read.
+constinit const char* strDeviceDefFilePath = "/mem/dd.ini";
+
+namespace sys_context {
+namespace {
+
+constexpr char kDeviceDefinitionFile[] = "/mnt/work/device_definition.ini";
+constexpr size_t kWorkBufferSize = 3072000;
+
+struct Loader {
+  int32_t (*load)(const char* file);
+  // kept as is: shown as strDeviceDefFilePath is the path that was read.
+  Message<int32_t, const char*> failure;
+};
+
+// Later tables refer to earlier ones, so the order is part of the file format.
+constexpr Loader kLoaders[] = {
+    {ddReadVersionInformation,
+     "\r\nddParseContextFile->ddReadVersionInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllModuleInformation,
+     "\r\nddParseContextFile->ddReadAllModuleInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadSysSupportFuncInformation,
+     "\r\nddParseContextFile->ddReadSysSupportFuncInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+};
+
+// Forgets what the tables hold; nothing is released.
+void ClearTables() {
+  gstVersionInformation = {};
+  gstSysSupportFuncType = {};
+  gstModuleTypeList = {};
+}
+
+// Proves that the memory is there, by touching all of it. The call goes through a
+// volatile pointer: compilers drop an allocation that they see is not used.
+class WorkBuffer {
+ public:
+  WorkBuffer() : bytes_(std::malloc(kWorkBufferSize)) {
+    if (bytes_ != nullptr) {
+      void* (*volatile fill)(void*, int, size_t) = std::memset;
+      fill(bytes_.get(), 0, kWorkBufferSize);
+    }
+  }
+  bool is_there() const { return bytes_ != nullptr; }
+
+ private:
+  Owned<void> bytes_;
+};
+
+}  // namespace
+}  // namespace sys_context
+
+int32_t ddInit() {
+  sys_context::ClearTables();
+  if (const int32_t code = ddReadContextFile(); code != sys_context::kOk) {
+    std::puts("ddInit initialize......failed!\r");
+    return code;
+  }
+  return sys_context::kOk;
+}
+
+int32_t ddReadContextFile() {
+  // kept as is: the loaders read the file by its path and never see the buffer.
+  const sys_context::WorkBuffer buffer;
+  if (!buffer.is_there()) {
+    std::puts("\r\nddReadContextFile err! Not enough memory for pFileBuf buffer.\r");
+    return sys_context::kNoWorkBuffer;
+  }
+  const int32_t code = ddParseContextFile();
+  if (code != sys_context::kOk) {
+    sys_context::Console("\r\nddReadContextFile->ddParseContextFile err! iResult = %d", code);
+  }
+  return code;
+}
+
+int32_t ddParseContextFile() {
+  for (const sys_context::Loader& loader : sys_context::kLoaders) {
+    if (const int32_t code = loader.load(sys_context::kDeviceDefinitionFile);
+        code != sys_context::kOk) {
+      Report(sys_context::Gate::kAlways, loader.failure, code, sys_context::kDeviceDefinitionFile);
+      return code;
+    }
+  }
+  return sys_context::kOk;
+}
