@@ -1,0 +1,183 @@
+// Stand-ins for functions of the C library; see the header.
+#include "support/faults.h"
+
+#include <sys/types.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <utility>
+
+namespace test {
+namespace {
+
+Faults* current = nullptr;
+
+// Notes a block, with the watching switched off meanwhile: the notes allocate.
+void* Note(void* block, size_t size) {
+  if (Faults* const faults = std::exchange(current, nullptr); faults != nullptr) {
+    if (block != nullptr) {
+      faults->blocks[block] = size;
+    }
+    current = faults;
+  }
+  return block;
+}
+
+void Forget(void* block) {
+  Faults* const faults = std::exchange(current, nullptr);
+  if (faults == nullptr) {
+    return;
+  }
+  if (const auto found = faults->blocks.find(block); found != faults->blocks.end()) {
+    ++faults->frees;
+    if (faults->on_free != nullptr) {
+      faults->on_free(block, found->second);
+    }
+    faults->blocks.erase(found);
+  }
+  current = faults;
+}
+
+// A stream over bytes in memory, which reads and seeks as a plain file does.
+struct MemoryFile {
+  std::string_view bytes;
+  size_t unreadable_from;
+  size_t position;
+};
+
+ssize_t ReadMemory(void* cookie, char* buffer, size_t size) {
+  MemoryFile& file = *static_cast<MemoryFile*>(cookie);
+  if (file.position >= file.bytes.size()) {
+    return 0;
+  }
+  if (file.position >= file.unreadable_from) {
+    errno = EIO;
+    return -1;
+  }
+  const size_t end = std::min(file.bytes.size(), file.unreadable_from);
+  size = std::min(size, end - file.position);
+  std::memcpy(buffer, file.bytes.data() + file.position, size);
+  file.position += size;
+  return static_cast<ssize_t>(size);
+}
+
+int SeekMemory(void* cookie, off64_t* offset, int origin) {
+  MemoryFile& file = *static_cast<MemoryFile*>(cookie);
+  const size_t bases[] = {0, file.position, file.bytes.size()};
+  const off64_t position = static_cast<off64_t>(bases[origin]) + *offset;
+  if (position < 0) {
+    errno = EINVAL;
+    return -1;
+  }
+  file.position = static_cast<size_t>(position);
+  *offset = position;
+  return 0;
+}
+
+int CloseMemory(void* cookie) {
+  delete static_cast<MemoryFile*>(cookie);
+  return 0;
+}
+
+FILE* OpenMemory(std::string_view bytes, size_t unreadable_from, const char* mode) {
+  return fopencookie(new MemoryFile{bytes, unreadable_from, 0}, mode,
+                     {ReadMemory, nullptr, SeekMemory, CloseMemory});
+}
+
+}  // namespace
+
+Faults::Faults() {
+  current = this;
+}
+Faults::~Faults() {
+  current = nullptr;
+}
+
+}  // namespace test
+
+extern "C" {
+
+void* __real_malloc(size_t size);
+void* __real_calloc(size_t count, size_t size);
+void __real_free(void* block);
+FILE* __real_fopen(const char* path, const char* mode);
+int __real_fseek(FILE* stream, long position, int origin);
+size_t __real_fread(void* buffer, size_t size, size_t count, FILE* stream);
+int __real_fclose(FILE* stream);
+
+void* __wrap_malloc(size_t size);
+void* __wrap_calloc(size_t count, size_t size);
+void __wrap_free(void* block);
+FILE* __wrap_fopen(const char* path, const char* mode);
+int __wrap_fseek(FILE* stream, long position, int origin);
+size_t __wrap_fread(void* buffer, size_t size, size_t count, FILE* stream);
+int __wrap_fclose(FILE* stream);
+
+void* __wrap_malloc(size_t size) {
+  if (test::current != nullptr && test::current->allocations.NextFails()) {
+    return nullptr;
+  }
+  return test::Note(__real_malloc(size), size);
+}
+
+void* __wrap_calloc(size_t count, size_t size) {
+  if (test::current != nullptr && test::current->allocations.NextFails()) {
+    return nullptr;
+  }
+  return test::Note(__real_calloc(count, size), count * size);
+}
+
+void __wrap_free(void* block) {
+  test::Forget(block);
+  __real_free(block);
+}
+
+FILE* __wrap_fopen(const char* path, const char* mode) {
+  test::Faults* const faults = std::exchange(test::current, nullptr);
+  if (faults == nullptr) {
+    return __real_fopen(path, mode);
+  }
+  FILE* stream = nullptr;
+  if (!faults->opens.NextFails()) {
+    const auto content = faults->contents.find(path);
+    const auto mapped = faults->paths.find(path);
+    if (content != faults->contents.end()) {
+      stream = test::OpenMemory(content->second, faults->unreadable_from, mode);
+    } else {
+      stream = __real_fopen(mapped == faults->paths.end() ? path : mapped->second.c_str(), mode);
+    }
+  }
+  test::current = faults;
+  return stream;
+}
+
+int __wrap_fseek(FILE* stream, long position, int origin) {
+  if (test::current != nullptr && test::current->seeks.NextFails()) {
+    return -1;
+  }
+  return __real_fseek(stream, position, origin);
+}
+
+size_t __wrap_fread(void* buffer, size_t size, size_t count, FILE* stream) {
+  if (test::current != nullptr && test::current->reads.NextFails()) {
+    stream->_flags |= 0x20;  // glibc's mark of a read error, which ferror() looks at
+    return 0;
+  }
+  const size_t read = __real_fread(buffer, size, count, stream);
+  if (test::current != nullptr) {
+    test::current->bytes_read += read * size;
+  }
+  return read;
+}
+
+int __wrap_fclose(FILE* stream) {
+  if (test::current != nullptr) {
+    ++test::current->closes;
+  }
+  return __real_fclose(stream);
+}
+
+}  // extern "C"

@@ -1,0 +1,68 @@
+// The calls that the library makes to the C library: counted, and made to fail
+// on demand. They are reached by the linker's --wrap, so the library itself
+// knows nothing of it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace test {
+
+// Counts one kind of call, and decides which of them fail.
+class FaultPlan {
+ public:
+  static constexpr int kForEver = std::numeric_limits<int>::max();
+
+  // The call number `first` (from 1) and the `calls` - 1 after it fail.
+  void FailFrom(int first, int calls) {
+    first_ = first;
+    calls_ = calls;
+  }
+  bool NextFails() {
+    ++count_;
+    return first_ != 0 && count_ >= first_ && count_ - first_ < calls_;
+  }
+  int count() const { return count_; }
+
+ private:
+  int count_ = 0;
+  int first_ = 0;
+  int calls_ = 0;
+};
+
+// What is watched and made to fail while a Faults object lives. There is one at
+// a time; without one the C library is called as ever.
+struct Faults {
+  Faults();
+  ~Faults();
+  Faults(const Faults&) = delete;
+  Faults& operator=(const Faults&) = delete;
+
+  FaultPlan allocations;  // malloc and calloc
+  FaultPlan opens;
+  FaultPlan reads;  // a failing read gives no byte and sets the stream's error
+  FaultPlan seeks;
+  int frees = 0;
+  int closes = 0;
+  size_t bytes_read = 0;
+
+  // Blocks of the library that are not freed yet, by their address.
+  std::map<void*, size_t> blocks;
+
+  // Paths that the library opens, and what is opened instead.
+  std::map<std::string, std::string> paths;
+
+  // Paths that the library opens, and the bytes that it finds there. No file of
+  // that name is needed. Reading at byte `unreadable_from` of them fails.
+  std::map<std::string, std::string_view> contents;
+  size_t unreadable_from = std::numeric_limits<size_t>::max();
+
+  // Called when a block of the library is freed, before that is done.
+  void (*on_free)(void* block, size_t size) = nullptr;
+};
+
+}  // namespace test
