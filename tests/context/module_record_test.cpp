@@ -1,0 +1,212 @@
+// Reading one module from its own section.
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "support/definition_file.h"
+#include "support/faults.h"
+#include "support/tables.h"
+
+namespace {
+
+using std::string;
+
+ModuleInformation* const kUntouched = reinterpret_cast<ModuleInformation*>(0x1234);
+
+struct RecordRow {
+  const char* name;
+  string file;
+  uint32_t type;
+  string module_name;
+  uint32_t size;
+  friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
+    return out << row.name;
+  }
+};
+
+class ReadModule : public test::LibraryTest, public testing::WithParamInterface<RecordRow> {
+ protected:
+  test::Console console_;
+};
+
+TEST_P(ReadModule, HandsOverARecord) {
+  const test::DefinitionFile file(GetParam().file);
+  ModuleInformation* module = kUntouched;
+
+  ASSERT_EQ(ddReadOneModuleInformation(file.path(), "Sec", &module), 0);
+
+  ASSERT_NE(module, nullptr);
+  const std::unique_ptr<ModuleInformation, decltype(&std::free)> owner(module, &std::free);
+  EXPECT_EQ(console_.Text(), "");
+  EXPECT_EQ(module->ulModuleType, GetParam().type);
+  EXPECT_EQ(module->ulNameLen, GetParam().module_name.size() + 1);
+  string field = GetParam().module_name;
+  field.resize(sizeof module->acName);
+  EXPECT_EQ(string(module->acName, sizeof module->acName), field);
+  EXPECT_EQ(module->ulSize, GetParam().size);
+}
+
+string Sec(const string& type, const string& name, const string& size) {
+  return "[Sec]\nType=" + type + "\nName=" + name + "\nSize=" + size + "\n";
+}
+
+const RecordRow kRecords[] = {
+    {"Plain", Sec("7", "OMCI", "64"), 7, "OMCI", 64},
+    {"KeysInAnyOrder", "[Sec]\nSize=64\nOther=1\nName=OMCI\nType=7\n", 7, "OMCI", 64},
+    {"FirstKeyWins", Sec("7", "OMCI", "64") + "Type=8\nName=B\nSize=9\n", 7, "OMCI", 64},
+    {"TypeZero", Sec("0", "N", "1"), 0, "N", 1},
+    {"TypeEmpty", Sec("", "N", "1"), 0, "N", 1},
+    {"TypeText", Sec("abc", "N", "1"), 0, "N", 1},
+    {"TypeWithText", Sec("12x", "N", "1"), 12, "N", 1},
+    {"TypeNegative", Sec("-1", "N", "1"), 4294967295, "N", 1},
+    {"TypeAbove32Bits", Sec("4294967296", "N", "1"), 2147483647, "N", 1},
+    {"TypeBelow32Bits", Sec("-4294967297", "N", "1"), 2147483648, "N", 1},
+    {"SizeZero", Sec("1", "N", "0"), 1, "N", 0},
+    {"SizeEmpty", Sec("1", "N", ""), 1, "N", 0},
+    {"SizeText", Sec("1", "N", "big"), 1, "N", 0},
+    {"SizeAboveOneByte", Sec("1", "N", "300"), 1, "N", 300},
+    {"SizeNegative", Sec("1", "N", "-1"), 1, "N", 4294967295},
+    {"SizeAbove32Bits", Sec("1", "N", "99999999999"), 1, "N", 2147483647},
+    {"NameEmpty", Sec("1", "", "1"), 1, "", 1},
+    {"NameWithBlanks", Sec("1", "two words", "1"), 1, "two words", 1},
+    {"NameLongest", Sec("1", string(59, 'n'), "1"), 1, string(59, 'n'), 1},
+};
+INSTANTIATE_TEST_SUITE_P(Modules, ReadModule, testing::ValuesIn(kRecords),
+                         testing::PrintToStringParamName());
+
+struct FailRow {
+  const char* name;
+  string file;
+  int32_t code;
+  string console;
+  int failing_read = 0;
+  int failing_open = 0;
+  friend std::ostream& operator<<(std::ostream& out, const FailRow& row) { return out << row.name; }
+};
+
+class FailToReadModule : public test::LibraryTest, public testing::WithParamInterface<FailRow> {
+ protected:
+  test::Console console_;
+};
+
+TEST_P(FailToReadModule, FreesTheRecordAndClearsThePointer) {
+  const test::DefinitionFile file(GetParam().file);
+  for (const int32_t debug : {0, 1}) {
+    ddDebugPrint = debug;
+    ModuleInformation* module = kUntouched;
+    test::Faults faults;
+    faults.reads.FailFrom(GetParam().failing_read, 1);
+    faults.opens.FailFrom(GetParam().failing_open, 1);
+
+    EXPECT_EQ(ddReadOneModuleInformation(file.path(), "Sec", &module), GetParam().code);
+
+    EXPECT_EQ(module, nullptr);
+    EXPECT_EQ(console_.Text(), GetParam().console);
+    EXPECT_EQ(faults.allocations.count(), 1);
+    EXPECT_TRUE(faults.blocks.empty());
+  }
+}
+
+string NoType(const string& code) {
+  return "\r\nddReadOneModuleInformation err! iResult = " + code +
+         ", strSectionFrameNameBuf = Sec, Key = Type";
+}
+string NoKey(const string& code, const string& key) {
+  return "\r\nddReadOneModuleInformation err! iResult = " + code + ", section = Sec, key = " + key;
+}
+const string kTooLong = "X=" + string(500, 'a') + "+\n" + string(20, 'b') + "\n";
+
+const FailRow kFails[] = {
+    {"NoSection", "[sec]\nType=1\nName=N\nSize=1\n", -31, NoType("-1")},
+    {"EmptySection", "[Sec]\n[Next]\nType=1\n", -31, NoType("-2")},
+    {"NoType", "[Sec]\nName=N\nSize=1\n", -31, NoType("-2")},
+    {"TypeOfOtherCase", "[Sec]\ntype=1\nName=N\nSize=1\n", -31, NoType("-2")},
+    {"BrokenBeforeType", "[Sec]\nnonsense\nType=1\nName=N\nSize=1\n", -31, NoType("-14")},
+    {"TooLongBeforeType", "[Sec]\n" + kTooLong + "Type=1\nName=N\nSize=1\n", -31, NoType("-22")},
+    {"TypeUnreadable", Sec("1", "N", "1"), -31, NoType("-12"), 1},
+    {"TypeNotOpened", Sec("1", "N", "1"), -31, NoType("-10"), 0, 1},
+    {"NoName", "[Sec]\nType=1\nSize=1\n", -31, NoKey("-2", "Name")},
+    {"BrokenBeforeName", "[Sec]\nType=1\nnonsense\nName=N\nSize=1\n", -31, NoKey("-14", "Name")},
+    {"TooLongBeforeName", "[Sec]\nType=1\n" + kTooLong + "Name=N\n", -31, NoKey("-22", "Name")},
+    {"NameNotOpened", Sec("1", "N", "1"), -31, NoKey("-10", "Name"), 0, 2},
+    {"NameTooLong", Sec("1", string(60, 'n'), "1"), -33,
+     "\r\nddReadOneModuleInformation err! ulNameLen = 61"},
+    {"NameFarTooLong", Sec("1", string(507, 'n'), "1"), -33,
+     "\r\nddReadOneModuleInformation err! ulNameLen = 508"},
+    {"NameTooLongAndNoSize", "[Sec]\nType=1\nName=" + string(60, 'n') + "\n", -33,
+     "\r\nddReadOneModuleInformation err! ulNameLen = 61"},
+    {"NoSize", "[Sec]\nType=1\nName=N\n", -31, NoKey("-2", "Size")},
+    {"BrokenBeforeSize", "[Sec]\nType=1\nName=N\nnonsense\nSize=1\n", -31, NoKey("-14", "Size")},
+    {"TooLongBeforeSize", "[Sec]\nType=1\nName=N\n" + kTooLong, -31, NoKey("-22", "Size")},
+    {"SizeNotOpened", Sec("1", "N", "1"), -31, NoKey("-10", "Size"), 0, 3},
+};
+INSTANTIATE_TEST_SUITE_P(Modules, FailToReadModule, testing::ValuesIn(kFails),
+                         testing::PrintToStringParamName());
+
+class ModuleRecord : public test::LibraryTest {
+ protected:
+  test::Console console_;
+};
+
+// The pointers of a message, as the card prints them.
+string Pointers(const void* file, const void* section, const void* address) {
+  const auto low_bits = [](const void* pointer) {
+    return static_cast<unsigned>(reinterpret_cast<uintptr_t>(pointer) & 0xffffffff);
+  };
+  char text[200];
+  std::snprintf(text, sizeof text,
+                "\r\nddReadOneModuleInformation err! strFileName = 0x%x, strModuleSection = 0x%x, "
+                "pModuleObjAddr = 0x%x",
+                low_bits(file), low_bits(section), low_bits(address));
+  return text;
+}
+
+TEST_F(ModuleRecord, NullArgumentsTouchNothing) {
+  const test::DefinitionFile file(Sec("1", "N", "1"));
+  const char* const path = file.path();
+  const char section[] = "Sec";
+  for (const int32_t debug : {0, 1}) {
+    ddDebugPrint = debug;
+    ModuleInformation* module = kUntouched;
+    test::Faults faults;
+    EXPECT_EQ(ddReadOneModuleInformation(nullptr, section, &module), -2);
+    EXPECT_EQ(console_.Text(), Pointers(nullptr, section, &module));
+    EXPECT_EQ(ddReadOneModuleInformation(path, nullptr, &module), -2);
+    EXPECT_EQ(console_.Text(), Pointers(path, nullptr, &module));
+    EXPECT_EQ(ddReadOneModuleInformation(path, section, nullptr), -2);
+    EXPECT_EQ(console_.Text(), Pointers(path, section, nullptr));
+    EXPECT_EQ(ddReadOneModuleInformation(nullptr, nullptr, nullptr), -2);
+    EXPECT_EQ(console_.Text(),
+              "\r\nddReadOneModuleInformation err! strFileName = 0x0, strModuleSection = 0x0, "
+              "pModuleObjAddr = 0x0");
+    EXPECT_EQ(module, kUntouched);
+    EXPECT_EQ(faults.opens.count(), 0);
+    EXPECT_EQ(faults.allocations.count(), 0);
+  }
+}
+
+TEST_F(ModuleRecord, NoMemory) {
+  const test::DefinitionFile file(Sec("1", "N", "1"));
+  for (const int calls : {1, test::FaultPlan::kForEver}) {
+    ModuleInformation* module = kUntouched;
+    test::Faults faults;
+    faults.allocations.FailFrom(1, calls);
+    EXPECT_EQ(ddReadOneModuleInformation(file.path(), "Sec", &module), -27);
+    EXPECT_EQ(module, nullptr);
+    EXPECT_EQ(console_.Text(),
+              "\r\nddReadOneModuleInformation->malloc err! pstModuleInformation = 0x0");
+    EXPECT_EQ(faults.opens.count(), 0);
+    EXPECT_TRUE(faults.blocks.empty());
+  }
+}
+
+TEST_F(ModuleRecord, MissingFile) {
+  ModuleInformation* module = kUntouched;
+  EXPECT_EQ(ddReadOneModuleInformation("/nonexistent/device_definition.ini", "Sec", &module), -31);
+  EXPECT_EQ(module, nullptr);
+  EXPECT_EQ(console_.Text(), NoType("-10"));
+}
+
+}  // namespace
