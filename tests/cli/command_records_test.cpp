@@ -1,0 +1,136 @@
+// The command records, field by field, and the handlers behind them.
+#include "sys_context/cli.h"
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+
+#include "support/tables.h"
+
+namespace {
+
+using std::string;
+using Handler = int32_t (*)(CommandRecord*, void*, int32_t, char**);
+
+struct RecordRow {
+  const char* name;
+  CommandRecord* record;
+  const char* command;
+  Handler handler;
+  const char* help;
+  void (*corrupt)();            // spoils the table that the command shows
+  const char* empty_listing;    // what it shows of an empty table
+  const char* corrupt_listing;  // and of the spoilt one
+  friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
+    return out << row.name;
+  }
+};
+
+class CommandRecords : public test::LibraryTest, public testing::WithParamInterface<RecordRow> {
+ protected:
+  static const test::FakePlatform& Platform() { return test::FakePlatform::Get(); }
+
+  // Calls the handler as a shell would, and expects its terminal to be used.
+  static void ExpectShown(const char* listing) {
+    char word[] = "word";
+    char* words[] = {word, nullptr};
+    int terminal = 0;
+    for (const int32_t count : {0, 1, -1}) {
+      test::FakePlatform::Reset();
+      EXPECT_EQ(GetParam().record->func(GetParam().record, &terminal, count, words), 0);
+      EXPECT_EQ(Platform().terminal, listing);
+      ASSERT_FALSE(Platform().terminals_used.empty());
+      for (const void* const used : Platform().terminals_used) {
+        EXPECT_EQ(used, &terminal);
+      }
+    }
+  }
+
+  test::Console console_;
+};
+
+TEST_P(CommandRecords, HaveFourFields) {
+  const CommandRecord& record = *GetParam().record;
+  EXPECT_STREQ(record.string, GetParam().command);
+  EXPECT_EQ(record.func, GetParam().handler);
+  EXPECT_STREQ(record.doc, GetParam().help);
+  EXPECT_STREQ(record.name, GetParam().name);
+}
+
+TEST_P(CommandRecords, LeaveTheShellsFieldsZero) {
+  for (const void* const word : GetParam().record->host) {
+    EXPECT_EQ(word, nullptr);
+  }
+}
+
+TEST_P(CommandRecords, CanBeWrittenByTheShell) {
+  CommandRecord& record = *GetParam().record;
+  const CommandRecord before = record;
+  for (void*& word : record.host) {
+    word = &record;
+  }
+  EXPECT_EQ(record.host[7], &record);
+  record = before;
+}
+
+TEST_P(CommandRecords, HaveOneHelpLinePerWord) {
+  const string command = GetParam().record->string;
+  const string help = GetParam().record->doc;
+  EXPECT_EQ(std::count(help.begin(), help.end(), '\n'),
+            std::count(command.begin(), command.end(), ' ') + 1);
+  EXPECT_EQ(help.back(), '\n');
+}
+
+TEST_P(CommandRecords, ShowAnEmptyTable) {
+  ExpectShown(GetParam().empty_listing);
+  EXPECT_EQ(console_.Text(), "");
+}
+
+TEST_P(CommandRecords, AreDoneWithACorruptTableToo) {
+  GetParam().corrupt();
+  ExpectShown(GetParam().corrupt_listing);
+  EXPECT_EQ(console_.Text(), "");
+}
+
+TEST_P(CommandRecords, NeedNothingButATerminal) {
+  test::FakePlatform::Reset();
+  EXPECT_EQ(GetParam().handler(nullptr, nullptr, 0, nullptr), 0);
+  EXPECT_EQ(Platform().terminal, GetParam().empty_listing);
+  EXPECT_EQ(Platform().terminals_used.front(), nullptr);
+}
+
+const RecordRow kRecords[] = {
+    {.name = "ddShowVersionInfo_CMD",
+     .record = &ddShowVersionInfo_CMD,
+     .command = "show context version",
+     .handler = ddShowVersionInfo_Func,
+     .help = "show info.\ncontext info.\nversion info.\n",
+     .corrupt = [] { gstVersionInformation.ulSupportedSoftVerNum = 31; },
+     .empty_listing = "\r\nVersion:\r\nSupportedSoftwareVer:"
+                      "\r\ngstVersionInformation.ulSupportedSoftVerNum = 0\r\n\r\n",
+     .corrupt_listing = "\r\nddPrintVersionInformation err! ulSupportedSoftVerNum = 31, "
+                        "MAX_SUPPORTED_SOFT_VER_NUM = 30"},
+    {.name = "ddShowAllModuleInfo_CMD",
+     .record = &ddShowAllModuleInfo_CMD,
+     .command = "show context module_all",
+     .handler = ddShowAllModuleInfo_Func,
+     .help = "show info.\ncontext info.\nall module info.\n",
+     .corrupt = [] { gstModuleTypeList.ulModuleTypeNum = 200; },
+     .empty_listing = "\r\nModuleTypeList:\r\ngstModuleTypeList.ulModuleTypeNum = 0\r\n\r\n",
+     .corrupt_listing = "\r\nddPrintAllModuleInformation err!, pModuleTypeArray = 0x0"},
+    {.name = "ddShowSysSupportFuncInfo_CMD",
+     .record = &ddShowSysSupportFuncInfo_CMD,
+     .command = "show context sys_support_func",
+     .handler = ddShowSysSupportFuncInfo_Func,
+     .help = "show info.\ncontext info.\nsys support func info.\n",
+     .corrupt = [] { gstSysSupportFuncType.ulSupportedSysFunctionTypeNum = 201; },
+     .empty_listing = "\r\nSysSupportFuncInformation:"
+                      "\r\ngstSysSupportFuncType.ulSysSupportFuncNum = 0\r\n\r\n",
+     .corrupt_listing =
+         "\r\ndebug_ddPrintSysSupportFuncInformation err! ulSysSupportFuncNum = 201, "
+         "MAX_SUPPORTED_MODULE_TYPE_NUM = 200"},
+};
+INSTANTIATE_TEST_SUITE_P(Cli, CommandRecords, testing::ValuesIn(kRecords),
+                         testing::PrintToStringParamName());
+
+}  // namespace
