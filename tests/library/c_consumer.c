@@ -1,0 +1,232 @@
+/*
+ * A host in C: it includes all public headers, takes the address of everything
+ * that is exported, starts the library and asks it a few questions.
+ *     c_consumer EXPORTS    (the list of exported symbols)
+ */
+#include <stdio.h>
+#include <string.h>
+
+#include "host.h"
+#include "sys_context/cfgfile.h"
+#include "sys_context/cli.h"
+#include "sys_context/context.h"
+#include "sys_context/platform.h"
+
+#define COUNT(array) (sizeof(array) / sizeof((array)[0]))
+
+/* ---- Everything that is exported ------------------------------------------- */
+
+typedef void (*AnyFunction)(void);
+
+#define FUNCTION(name) \
+  { #name, (AnyFunction)name }
+static const struct {
+  const char* name;
+  AnyFunction address;
+} functions[] = {
+    FUNCTION(vkpJumpTableEntryBegin_0),
+    FUNCTION(vkpJumpTableEntryBegin_1),
+    FUNCTION(vkpJumpTableEntryEnd_0),
+    FUNCTION(vkpJumpTableEntryEnd_1),
+    FUNCTION(CFG_get_key),
+    FUNCTION(CFG_get_key_offset),
+    FUNCTION(alltrim),
+    FUNCTION(ddStringToLowercase),
+    FUNCTION(ddStringToUppercase),
+    FUNCTION(fgetline),
+    FUNCTION(ltrimstr),
+    FUNCTION(rtrimstr),
+    FUNCTION(split_key_val),
+    FUNCTION(context_cmd_module_init),
+    FUNCTION(context_module_init),
+    FUNCTION(ddInit),
+    FUNCTION(ddParseContextFile),
+    FUNCTION(ddReadContextFile),
+    FUNCTION(dosFsVolumeBioBufferSize),
+    FUNCTION(ddIsContextVerMatchSoftVer),
+    FUNCTION(ddReadVersionInformation),
+    FUNCTION(ddGetModuleNameByType),
+    FUNCTION(ddGetModuleSize),
+    FUNCTION(ddGetModuleTypeByName),
+    FUNCTION(ddIsModuleInList),
+    FUNCTION(ddIsSysSupportFunc),
+    FUNCTION(ddReadAllModuleInformation),
+    FUNCTION(ddReadOneModuleInformation),
+    FUNCTION(ddReadSysSupportFuncInformation),
+    FUNCTION(ddCmdInit),
+    FUNCTION(ddShowAllModuleInfo_Func),
+    FUNCTION(ddShowSysSupportFuncInfo_Func),
+    FUNCTION(ddShowVersionInfo_Func),
+    FUNCTION(ddPrintAllModuleInformation),
+    FUNCTION(ddPrintSysSupportFuncInformation),
+    FUNCTION(ddPrintVersionInformation),
+};
+
+#define VARIABLE(name) \
+  { #name, &name }
+static const struct {
+  const char* name;
+  const void* address;
+} variables[] = {
+    VARIABLE(CFG_key_line_no),
+    VARIABLE(CFG_key_lines),
+    VARIABLE(CFG_section_line_no),
+    VARIABLE(CFG_ssl),
+    VARIABLE(CFG_ssr),
+    VARIABLE(ddDebugPrint),
+    VARIABLE(dosFsMsgLevel),
+    VARIABLE(strDeviceDefFilePath),
+    VARIABLE(gstVersionInformation),
+    VARIABLE(gstrddSoftwareVer),
+    VARIABLE(gstModuleTypeList),
+    VARIABLE(gstSysSupportFuncType),
+    VARIABLE(ddShowAllModuleInfo_CMD),
+    VARIABLE(ddShowSysSupportFuncInfo_CMD),
+    VARIABLE(ddShowVersionInfo_CMD),
+};
+
+static int has_function(const char* name) {
+  for (size_t i = 0; i < COUNT(functions); i++) {
+    if (strcmp(functions[i].name, name) == 0) {
+      return 1;
+    }
+  }
+  return 0;
+}
+
+static int has_variable(const char* name) {
+  for (size_t i = 0; i < COUNT(variables); i++) {
+    if (strcmp(variables[i].name, name) == 0) {
+      return 1;
+    }
+  }
+  return 0;
+}
+
+/* Is the list of exported symbols what the tables above hold? */
+static void compare_with(const char* path) {
+  char line[200];
+  char kind;
+  char name[100];
+  size_t listed[2] = {0, 0};
+  FILE* const list = fopen(path, "r");
+  CHECK(list != NULL);
+  while (list != NULL && fgets(line, sizeof line, list) != NULL) {
+    if (sscanf(line, "%c %99s", &kind, name) != 2 || kind == '#') {
+      continue;
+    }
+    listed[kind == 'D']++;
+    if (!(kind == 'D' ? has_variable(name) : has_function(name))) {
+      fprintf(stderr, "%s is exported, but not in the tables of this program\n", name);
+      CHECK(0);
+    }
+  }
+  if (list != NULL) {
+    fclose(list);
+  }
+  CHECK(listed[0] == COUNT(functions));
+  CHECK(listed[1] == COUNT(variables));
+}
+
+static void addresses_are_good(void) {
+  for (size_t i = 0; i < COUNT(functions); i++) {
+    CHECK(functions[i].address != NULL);
+    for (size_t j = 0; j < i; j++) {
+      CHECK(functions[i].address != functions[j].address);
+    }
+  }
+  for (size_t i = 0; i < COUNT(variables); i++) {
+    CHECK(variables[i].address != NULL);
+    for (size_t j = 0; j < i; j++) {
+      CHECK(variables[i].address != variables[j].address);
+    }
+  }
+}
+
+/* ---- A start ----------------------------------------------------------------- */
+
+static void variables_have_their_first_values(void) {
+  CHECK(CFG_ssl == '[' && CFG_ssr == ']');
+  CHECK(CFG_section_line_no == 0 && CFG_key_line_no == 0 && CFG_key_lines == 0);
+  CHECK(ddDebugPrint == 0 && dosFsMsgLevel == 0);
+  CHECK(strcmp(strDeviceDefFilePath, "/mem/dd.ini") == 0);
+  CHECK(strcmp(gstrddSoftwareVer, "KT2200V4.0") == 0);
+  CHECK(gstVersionInformation.ulSupportedSoftVerNum == 0);
+  CHECK(gstModuleTypeList.ulModuleTypeNum == 0 && gstModuleTypeList.pModuleTypeArray == NULL);
+  CHECK(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum == 0);
+}
+
+static void a_missing_file_is_reported(void) {
+  set_definition_file(NULL);
+  catch_console();
+  CHECK(ddInit() == -31);
+  CHECK(strcmp(console_text(),
+               "\r\nddReadVersionInformation err! iResult = -10, section = Version, key = Version"
+               "\r\nddParseContextFile->ddReadVersionInformation err! iResult = -31, "
+               "strDeviceDefFilePath = /mnt/work/device_definition.ini"
+               "\r\nddReadContextFile->ddParseContextFile err! iResult = -31"
+               "ddInit initialize......failed!\r\n") == 0);
+}
+
+static void the_library_starts(void) {
+  set_definition_file(
+      "[Version]\nSupportedSoftwareVer = KT2200V3.8|KT2200V4.0\n"
+      "[ModuleTypeList]\nModuleNum = 1\nModule1 = Module_VLAN\n"
+      "[Module_VLAN]\nType = 3\nName = VLAN\nSize = 300\n"
+      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum = 1\n"
+      "SupportedSysFunction1 = VLAN\n");
+  catch_console();
+  CHECK(ddInit() == 0);
+  CHECK(ddCmdInit(0, 0, 0) == 0);
+  CHECK(strcmp(console_text(), "") == 0);
+  CHECK(gstVersionInformation.ulSupportedSoftVerNum == 2);
+  CHECK(gstModuleTypeList.ulModuleTypeNum == 1);
+  CHECK(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum == 1);
+}
+
+static void queries_are_answered(void) {
+  char name[MAX_MODULE_NAME_LEN];
+  uint32_t number = 0;
+  uint8_t size = 0;
+  CHECK(ddIsContextVerMatchSoftVer(&number) == 0 && number == 1);
+  CHECK(ddGetModuleNameByType(3, name) == 0 && strcmp(name, "VLAN") == 0);
+  CHECK(ddGetModuleTypeByName("VLAN", &number) == 0 && number == 3);
+  CHECK(ddIsModuleInList(4, &number) == 0 && number == 0);
+  CHECK(ddGetModuleSize(3, &size) == 0 && size == 44);
+  CHECK(ddIsSysSupportFunc(3, &number) == 0 && number == 1);
+}
+
+static void commands_are_installed(void) {
+  int terminal = 0;
+  CHECK(platform.registered == 1 && platform.versions == 1);
+  CHECK(platform.installed == 3);
+  CHECK(platform.records[0] == &ddShowVersionInfo_CMD);
+  CommandRecord* const record = platform.records[2];
+  CHECK(strcmp(record->string, "show context sys_support_func") == 0);
+  CHECK(record->func(record, &terminal, 0, NULL) == 0);
+  CHECK(platform.terminal_used == &terminal);
+  CHECK(strcmp(platform.terminal,
+               "\r\nSysSupportFuncInformation:\r\ngstSysSupportFuncType.ulSysSupportFuncNum = 1"
+               "\r\n 0. ulModuleType =  3, aucModuleName = VLAN  \r\n\r\n") == 0);
+}
+
+static void hooks_do_nothing(void) {
+  CHECK(context_module_init() == 0);
+  CHECK(context_cmd_module_init() == 0);
+  CHECK(dosFsVolumeBioBufferSize() == 0);
+}
+
+int main(int argc, char** argv) {
+  CHECK(argc == 2);
+  if (argc == 2) {
+    compare_with(argv[1]);
+  }
+  addresses_are_good();
+  variables_have_their_first_values();
+  a_missing_file_is_reported();
+  the_library_starts();
+  queries_are_answered();
+  commands_are_installed();
+  hooks_do_nothing();
+  return failures() == 0 ? 0 : 1;
+}

@@ -1,0 +1,40 @@
+/*
+ * What the C host programs of these tests share: counting failures, a
+ * definition file of their own in the card's place, and the platform.
+ */
+#ifndef TESTS_LIBRARY_HOST_H
+#define TESTS_LIBRARY_HOST_H
+
+#include <stddef.h>
+
+#include "sys_context/platform.h"
+
+/* Notes a failure, with the line, when the condition does not hold. */
+#define CHECK(condition) check((condition) != 0, #condition, __FILE__, __LINE__)
+void check(int holds, const char* condition, const char* file, int line);
+int failures(void);
+
+/* The bytes that the library reads as "/mnt/work/device_definition.ini"; null:
+ * there is no such file. */
+void set_definition_file(const char* bytes);
+
+/* Files that were opened since the start. */
+int files_opened(void);
+
+/* What the platform was asked, and what the terminal shows. */
+struct Platform {
+  int installed;
+  CommandRecord* records[32];
+  int registered;
+  int versions;
+  void* terminal_used;
+  char terminal[8192];
+};
+extern struct Platform platform;
+
+/* Catches what the library prints on the console from here ... */
+void catch_console(void);
+/* ... to here. The text is valid until the next call. */
+const char* console_text(void);
+
+#endif

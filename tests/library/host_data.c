@@ -1,0 +1,82 @@
+/*
+ * A host that writes the library's data, in one of the two ways there are:
+ * OWN_DATA defines the variables itself; otherwise it uses the library's, of
+ * which the linker puts copies into a program that is not position-independent.
+ * Either way there is one of each, and the library must see it.
+ */
+#include <stdlib.h>
+#include <string.h>
+
+#include "host.h"
+#include "sys_context/context.h"
+
+#if OWN_DATA
+int32_t ddDebugPrint = 1;
+const char* gstrddSoftwareVer = "OwnV1";
+const char* strDeviceDefFilePath = "/own/dd.ini";
+#endif
+
+static void the_debug_switch_is_seen(void) {
+  ddDebugPrint = 1;
+  catch_console();
+  CHECK(ddIsSysSupportFunc(1, NULL) == -2);
+  CHECK(strcmp(console_text(), "\r\nddIsSysSupportFunc err! pulIsSupported = 0x0") == 0);
+  ddDebugPrint = 0;
+  catch_console();
+  CHECK(ddIsSysSupportFunc(1, NULL) == -2);
+  CHECK(strcmp(console_text(), "") == 0);
+}
+
+static void the_software_version_is_seen(void) {
+  uint32_t supported = 77;
+  gstVersionInformation.ulSupportedSoftVerNum = 1;
+  gstVersionInformation.astSupportedSoftVer[0].ulSupportedSoftVerLen = 7;
+  strcpy(gstVersionInformation.astSupportedSoftVer[0].acSupportedSoftVer, "HostV2");
+  CHECK(ddIsContextVerMatchSoftVer(&supported) == -1 && supported == 0);
+  gstrddSoftwareVer = "HostV2";
+  CHECK(ddIsContextVerMatchSoftVer(&supported) == 0 && supported == 1);
+}
+
+static void written_tables_are_seen(void) {
+  static ModuleInformation module = {4, 5, "QINQ", 24};
+  static ModuleInformation* list[] = {&module};
+  uint32_t number = 0;
+  gstModuleTypeList.ulModuleTypeNum = 1;
+  gstModuleTypeList.pModuleTypeArray = list;
+  gstSysSupportFuncType.ulSupportedSysFunctionTypeNum = 1;
+  gstSysSupportFuncType.aulSupportedSysFunctionType[0] = 4;
+  CHECK(ddGetModuleTypeByName("QINQ", &number) == 0 && number == 4);
+  CHECK(ddIsSysSupportFunc(4, &number) == 0 && number == 1);
+}
+
+static void loaded_tables_are_seen(void) {
+  set_definition_file(
+      "[Version]\nSupportedSoftwareVer=HostV2\n"
+      "[ModuleTypeList]\nModuleNum=1\nModule1=S\n[S]\nType=8\nName=N\nSize=1\n"
+      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=1\nSupportedSysFunction1=N\n");
+  CHECK(ddInit() == 0);
+  CHECK(gstVersionInformation.ulSupportedSoftVerNum == 1);
+  CHECK(gstModuleTypeList.ulModuleTypeNum == 1);
+  CHECK(gstModuleTypeList.pModuleTypeArray[0]->ulModuleType == 8);
+  CHECK(gstSysSupportFuncType.aulSupportedSysFunctionType[0] == 8);
+}
+
+int main(void) {
+#if OWN_DATA
+  /* From the first instruction on, before anything is written. */
+  catch_console();
+  CHECK(ddIsSysSupportFunc(1, NULL) == -2);
+  CHECK(strcmp(console_text(), "\r\nddIsSysSupportFunc err! pulIsSupported = 0x0") == 0);
+  CHECK(strcmp(strDeviceDefFilePath, "/own/dd.ini") == 0);
+#else
+  CHECK(ddDebugPrint == 0);
+  CHECK(strcmp(gstrddSoftwareVer, "KT2200V4.0") == 0);
+  CHECK(strcmp(strDeviceDefFilePath, "/mem/dd.ini") == 0);
+  strDeviceDefFilePath = "/elsewhere/dd.ini";
+#endif
+  the_debug_switch_is_seen();
+  the_software_version_is_seen();
+  written_tables_are_seen();
+  loaded_tables_are_seen();
+  return failures() == 0 ? 0 : 1;
+}
