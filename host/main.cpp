@@ -1,0 +1,100 @@
+// sysctx, the simulated control card: starts the library as the firmware does
+// and serves its commands.
+#include <curl/curl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "host/console.h"
+#include "host/modules.h"
+#include "host/options.h"
+#include "host/session.h"
+#include "host/startup.h"
+#include "host/telnet_server.h"
+#include "host/terminal.h"
+
+namespace sysctx {
+namespace {
+
+void StartAndReport() {
+  const StartUp start_up = StartLibrary();
+  fputs(DescribeStartUp(start_up).c_str(), stdout);
+  fflush(stdout);
+}
+
+int RunOne(const std::string& command) {
+  ConsoleOnStderr console;
+  const StartUp start_up = StartLibrary();
+  if (start_up.Failed()) {
+    fputs(DescribeStartUp(start_up).c_str(), stderr);
+  } else {
+    fputs(DescribeConsole(start_up.console).c_str(), stderr);
+  }
+  Session session;
+  const Outcome outcome = session.Run(command, console.out());
+  if (!console.Finish()) {
+    throw std::runtime_error("the output cannot be written");
+  }
+  if (!outcome.ran) {
+    const std::string& message = outcome.message;
+    fprintf(stderr, "sysctx: %s", message.empty() ? "the command was refused\n" : message.c_str());
+  }
+  return ExitStatus(outcome);
+}
+
+int ServeTelnet(uint16_t port) {
+  TelnetServer server(port);
+  StartAndReport();
+  printf("listening on 127.0.0.1 port %d\n", server.port());
+  fflush(stdout);
+  SetTaskDelays(true);
+  server.Run();
+  return EXIT_SUCCESS;
+}
+
+int ServeLocally() {
+  StartAndReport();
+  Session session;
+  if (isatty(STDIN_FILENO) == 0 || isatty(STDOUT_FILENO) == 0) {
+    return RunScript(session, stdin);
+  }
+  SetTaskDelays(true);
+  puts("Type ? for help, quit to leave.");
+  return RunTerminal(session);
+}
+
+int Main(const std::vector<std::string>& arguments) {
+  const Options options = ParseOptions(arguments);
+  if (options.action == Action::kHelp) {
+    fputs(kUsage, stdout);
+    return EXIT_SUCCESS;
+  }
+  if (options.action == Action::kVersion) {
+    printf("sysctx %s\n", SYSCTX_VERSION);
+    return EXIT_SUCCESS;
+  }
+  OpenRoot(options.root.empty() ? SYSCTX_DEFAULT_ROOT : options.root);
+  curl_global_init(CURL_GLOBAL_DEFAULT);
+  if (options.action == Action::kRun) {
+    return RunOne(options.command);
+  }
+  return options.action == Action::kServe ? ServeTelnet(options.port) : ServeLocally();
+}
+
+}  // namespace
+}  // namespace sysctx
+
+int main(int argc, char** argv) {
+  try {
+    return sysctx::Main(std::vector<std::string>(argv + 1, argv + argc));
+  } catch (const std::exception& error) {
+    fflush(stdout);
+    fprintf(stderr, "sysctx: %s\n", error.what());
+    return EXIT_FAILURE;
+  }
+}

@@ -1,0 +1,117 @@
+// Starting the card, and the report about it.
+#include "host/startup.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <sstream>
+#include <stdexcept>
+
+#include "host/console.h"
+#include "host/equipment.h"
+#include "host/format.h"
+#include "host/modules.h"
+#include "host/registry.h"
+#include "host/root.h"
+#include "sys_context/cli.h"
+#include "sys_context/context.h"
+#include "sys_context/platform.h"
+
+namespace sysctx {
+namespace {
+
+constexpr const char* kDefinitionFile = "/mnt/work/device_definition.ini";
+constexpr const char* kOpticalFile = "/mnt/work/optmodule_definition.ini";
+
+std::string g_root;
+
+std::string AbsoluteFolder(const std::string& folder) {
+  char path[PATH_MAX];
+  struct stat status = {};
+  if (realpath(folder.c_str(), path) == nullptr || stat(path, &status) != 0) {
+    throw std::runtime_error("root '" + folder + "': " + strerror(errno));
+  }
+  if (!S_ISDIR(status.st_mode)) {
+    throw std::runtime_error("root '" + folder + "' is no folder");
+  }
+  return path;
+}
+
+std::string DescribeFile(const char* name) {
+  const int32_t size = flash_sizeof(name);
+  return size < 0 ? Format("  %s: missing\n", name) : Format("  %s: %d bytes\n", name, size);
+}
+
+std::string DescribeEquipment() {
+  const Equipment& facts = TheEquipment();
+  return Format("  equipment.toml: device type %d, main card %d in slot %d, %zu configured cards\n",
+                facts.device_type, facts.main_card_type, facts.main_card_slot,
+                facts.configured_cards.size());
+}
+
+std::string DescribeTables() {
+  return Format("loaded: %u versions, %u modules, %u system functions\n",
+                gstVersionInformation.ulSupportedSoftVerNum, gstModuleTypeList.ulModuleTypeNum,
+                gstSysSupportFuncType.ulSupportedSysFunctionTypeNum);
+}
+
+std::string DescribeModules() {
+  std::string text = Format("commands: %zu installed\n", InstalledCommands().size());
+  for (const Module& module : RegisteredModules()) {
+    text += Format("module %d: %s, version \"%s\"\n", module.id, module.name.c_str(),
+                   module.version.c_str());
+  }
+  return text;
+}
+
+std::string DescribeFailures(const StartUp& start_up) {
+  std::string text;
+  if (start_up.init_result != 0) {
+    text += Format("ddInit failed with %d: tables behind the failure are empty\n",
+                   start_up.init_result);
+  }
+  if (start_up.commands_result != 0) {
+    text += Format("ddCmdInit failed with %d: the module is not registered\n",
+                   start_up.commands_result);
+  }
+  return text.empty() ? text : text + "the shell is usable all the same\n";
+}
+
+}  // namespace
+
+void OpenRoot(const std::string& folder) {
+  g_root = AbsoluteFolder(folder);
+  SetEquipment(ReadEquipment(g_root + "/equipment.toml"));
+  SetRoot(g_root);
+}
+
+StartUp StartLibrary() {
+  StartUp start_up;
+  start_up.console = CaptureConsole([&] {
+    start_up.init_result = ddInit();
+    start_up.commands_result = ddCmdInit(0, 0, 0);
+  });
+  return start_up;
+}
+
+std::string DescribeConsole(const std::string& console) {
+  std::string text;
+  std::istringstream lines(console);
+  for (std::string line; std::getline(lines, line);) {
+    line.erase(line.find_last_not_of('\r') + 1);
+    text += line.empty() ? "" : "console: " + line + "\n";
+  }
+  return text;
+}
+
+std::string DescribeStartUp(const StartUp& start_up) {
+  return Format("sysctx %s, simulated control card\nroot: %s\n", SYSCTX_VERSION, g_root.c_str()) +
+         DescribeEquipment() + DescribeFile(kDefinitionFile) + DescribeFile(kOpticalFile) +
+         DescribeConsole(start_up.console) + DescribeTables() + DescribeModules() +
+         DescribeFailures(start_up);
+}
+
+}  // namespace sysctx

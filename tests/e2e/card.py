@@ -1,0 +1,59 @@
+"""What the end-to-end tests share: the program, its samples and roots made up
+for a test. The program's path is in the environment variable SYSCTX, the
+source folder in SYSCTX_SOURCE."""
+import os
+import pathlib
+import subprocess
+import tempfile
+import unittest
+
+SYSCTX = os.environ["SYSCTX"]
+SOURCE = pathlib.Path(os.environ["SYSCTX_SOURCE"])
+SAMPLES = ("kt3300-l", "kt2200-a")
+PATIENCE = 60  # seconds; generous, since sanitizers are slow
+
+DEFINITIONS = """\
+[Version]
+SupportedSoftwareVer=KT2200V4.0|KT2200V4.1
+[ModuleTypeList]
+ModuleNum=1
+Module1=Module_OMCI
+[Module_OMCI]
+Type=1
+Name=OMCI
+Size=64
+[SupportedSysFunctionType]
+SupportedSysFunctionTypeNum=1
+SupportedSysFunction1=OMCI
+"""
+
+
+def sample(name):
+    return SOURCE / "definitions" / name
+
+
+def run(*arguments, stdin=b""):
+    """Runs sysctx to its end."""
+    return subprocess.run(
+        [SYSCTX, *map(str, arguments)], input=stdin, capture_output=True,
+        timeout=PATIENCE, check=False)
+
+
+class CardTest(unittest.TestCase):
+    """A test with a root of its own in self.root."""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = pathlib.Path(folder.name).resolve()
+        self.write("equipment.toml", "")
+
+    def write(self, name, text):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, newline="")
+        return path
+
+    def define(self, text=DEFINITIONS):
+        """Gives the root its device definition file."""
+        self.write("mnt/work/device_definition.ini", text)

@@ -1,0 +1,126 @@
+"""Everything that keeps sysctx from starting: one line, a status, no output.
+And a card whose library fails to start, which stays usable."""
+import re
+import socket
+import unittest
+
+import card
+
+
+class BadLines(card.CardTest):
+    def setUp(self):
+        super().setUp()
+        self.define()
+
+    def check(self, message, *arguments):
+        with self.subTest(arguments=arguments):
+            done = card.run(*arguments)
+            self.assertEqual(done.stderr.decode(), f"sysctx: {message}\n")
+            self.assertEqual(done.stdout, b"")
+            self.assertEqual(done.returncode, 1)
+
+    def test_options(self):
+        hint = " (see sysctx --help)"
+        self.check(f"unknown option '--rot'{hint}", "--rot", "x")
+        self.check(f"unknown word 'start'{hint}", "start")
+        self.check(f"option '--root' needs a value{hint}", "--root")
+        self.check(f"'run' needs a command{hint}", "run")
+        self.check(f"'serve' needs --telnet PORT{hint}", "serve")
+        self.check(f"option '--telnet' needs a value{hint}", "serve", "--telnet")
+        self.check(f"--telnet goes with 'serve'{hint}", "--telnet", "2323")
+
+    def test_port_numbers(self):
+        for port in ("x", "-1", "65536", "23x", "99999999999999999999", " 23"):
+            self.check(f"bad port '{port}': a number from 0 to 65535 is wanted",
+                       "serve", "--telnet", port)
+
+    def test_port_in_use(self):
+        with socket.create_server(("127.0.0.1", 0)) as taken:
+            port = taken.getsockname()[1]
+            self.check(f"port {port}: Address already in use",
+                       "--root", self.root, "serve", "--telnet", port)
+
+    def test_missing_root(self):
+        missing = self.root / "missing"
+        self.check(f"root '{missing}': No such file or directory", "--root", missing)
+        self.check(f"root '{missing}': No such file or directory",
+                   "--root", missing, "run", "show context version")
+
+    def test_root_that_is_a_file(self):
+        file = self.root / "equipment.toml"
+        self.check(f"root '{file}' is no folder", "--root", file)
+
+    def test_root_without_equipment(self):
+        (self.root / "equipment.toml").unlink()
+        self.check(f"{self.root}/equipment.toml: No such file or directory",
+                   "--root", self.root, "run", "show context version")
+
+    def test_bad_equipment(self):
+        file = self.root / "equipment.toml"
+        for text, message in (
+                ("device_type = \"x\"\n",
+                 ":1: key 'device_type': expected an integer, found a string"),
+                ("\n[main_card]\nslots = 9\n", ":3: key 'main_card.slots': unknown key"),
+                ("[ftp]\nport = 70000\n", ":2: key 'ftp.port': 70000 is not within 1..65535")):
+            file.write_text(text)
+            self.check(f"{file}{message}", "--root", self.root)
+
+    def test_equipment_with_a_syntax_error(self):
+        file = self.root / "equipment.toml"
+        file.write_text("device_type = 15\n[main_card\n")
+        done = card.run("--root", self.root)
+        self.assertRegex(done.stderr.decode(), f"^sysctx: {re.escape(str(file))}:2: .+\n$")
+        self.assertEqual((done.returncode, done.stdout), (1, b""))
+
+
+class Information(unittest.TestCase):
+    def test_help(self):
+        done = card.run("--help")
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.assertTrue(done.stdout.startswith(b"Usage: sysctx [--root DIR] [run COMMAND"))
+
+    def test_version(self):
+        done = card.run("--version")
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.assertRegex(done.stdout.decode(), r"^sysctx \d+\.\d+\.\d+\n$")
+
+
+class FailedStart(card.CardTest):
+    """ddInit fails, the shell works on what was loaded before the failure."""
+
+    VERSIONS = b"\r\n 0. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.0"
+
+    def break_modules(self):
+        self.define(card.DEFINITIONS.replace("ModuleNum=1", "ModuleNum=201"))
+
+    def test_run_prints_what_is_there(self):
+        self.break_modules()
+        done = card.run("--root", self.root, "run", "show context version")
+        self.assertEqual(done.returncode, 0)
+        self.assertTrue(done.stdout.startswith(b"\r\nVersion:\r\n"), done.stdout)
+        self.assertIn(self.VERSIONS, done.stdout)
+        self.assertNotIn(b"ddInit", done.stdout)
+        report = done.stderr.decode()
+        self.assertIn("\nddInit failed with -28: tables behind the failure are empty\n", report)
+        self.assertIn("\nconsole: ddReadAllModuleInformation err! ulModuleTypeNum = 201,", report)
+        self.assertIn("loaded: 2 versions, 0 modules, 0 system functions\n", report)
+
+    def test_shell_says_so_and_works(self):
+        self.break_modules()
+        done = card.run("--root", self.root, stdin=b"show context version\n")
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.assertIn(b"\nddInit failed with -28: tables behind the failure are empty\n"
+                      b"the shell is usable all the same\n", done.stdout)
+        self.assertIn(self.VERSIONS, done.stdout)
+
+    def test_missing_definition_file(self):
+        done = card.run("--root", self.root, "run", "show context version")
+        self.assertEqual(done.returncode, 0)
+        self.assertIn(b"ulSupportedSoftVerNum = 0\r\n", done.stdout)
+        report = done.stderr.decode()
+        self.assertIn("  /mnt/work/device_definition.ini: missing\n", report)
+        self.assertIn("\nddInit failed with -31:", report)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,130 @@
+"""`sysctx run`: one command's output byte for byte, and its result."""
+import pathlib
+import unittest
+
+import card
+
+GOLDEN = pathlib.Path(__file__).parent / "golden"
+COMMANDS = ("version", "module_all", "sys_support_func")
+OMCI_ROW = b" 0. ModuleType =  1, ulNameLen =  5, acName = OMCI         , ulSize = 64\r\n"
+
+
+class RunOnSamples(unittest.TestCase):
+    def check_golden(self, *options, sample):
+        for command in COMMANDS:
+            with self.subTest(sample=sample, command=command):
+                done = card.run(*options, "run", f"show context {command}")
+                expected = (GOLDEN / f"{sample}-{command}.txt").read_bytes()
+                self.assertEqual(done.stdout, expected)
+                self.assertEqual(done.stderr, b"")
+                self.assertEqual(done.returncode, 0)
+
+    def test_output_of_every_command(self):
+        for sample in card.SAMPLES:
+            self.check_golden("--root", card.sample(sample), sample=sample)
+
+    def test_the_large_sample_is_the_default(self):
+        self.check_golden(sample="kt3300-l")
+
+
+class Run(card.CardTest):
+    def setUp(self):
+        super().setUp()
+        self.define()
+
+    def run_command(self, *words):
+        return card.run("--root", self.root, "run", *words)
+
+    def test_abbreviated(self):
+        done = self.run_command("sh con mod | inc OMCI")
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, OMCI_ROW, b""))
+
+    def test_words_unquoted(self):
+        done = self.run_command("show", "context", "module_all", "|", "include", "OMCI")
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, OMCI_ROW, b""))
+
+    def test_include_filter(self):
+        done = self.run_command("show context version | include KT")
+        self.assertEqual(
+            done.stdout,
+            b" 0. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.0\r\n"
+            b" 1. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.1\r\n")
+
+    def test_count_filter(self):
+        self.assertEqual(self.run_command("show context version | count").stdout, b"5\r\n")
+
+    def test_question_lists_words(self):
+        done = self.run_command("show context ?")
+        self.assertEqual(done.returncode, 0)
+        self.assertIn(b"  version              version info.\n", done.stdout)
+
+    def test_refused_commands(self):
+        for command, message in (
+                ("show nothing", b'sysctx: Invalid command "show nothing"\n'),
+                ("h", b'sysctx: Ambiguous command "h": help history\n'),
+                ("show context", b"sysctx: Incomplete command\n"),
+                ("show context version 1",
+                 b'sysctx: Invalid argument "1": the command takes none\n'),
+                ("show context version | sort", b'sysctx: Invalid command "sort"\n')):
+            with self.subTest(command=command):
+                done = self.run_command(command)
+                self.assertEqual((done.returncode, done.stdout, done.stderr), (2, b"", message))
+
+    def test_console_text_stays_out_of_the_output(self):
+        self.define(card.DEFINITIONS.replace("ModuleNum=1", "ModuleNum=2"))
+        done = self.run_command("show context module_all | include OMCI")
+        self.assertEqual((done.returncode, done.stdout), (0, OMCI_ROW))
+        self.assertEqual(
+            done.stderr,
+            b"console: ddReadAllModuleInformation err! iResult = -2, section = ModuleTypeList,"
+            b" key = Module2\n")
+
+    def test_full_device_is_told(self):
+        with open("/dev/full", "wb") as full:
+            done = card.subprocess.run(
+                [card.SYSCTX, "--root", str(self.root), "run", "show context version"],
+                stdout=full, stderr=card.subprocess.PIPE, timeout=card.PATIENCE, check=False)
+        self.assertEqual(done.returncode, 1)
+        self.assertEqual(done.stderr, b"sysctx: the output cannot be written\n")
+
+
+class Script(card.CardTest):
+    """Commands read from an input that is no terminal."""
+
+    def setUp(self):
+        super().setUp()
+        self.define()
+
+    def feed(self, text):
+        return card.run("--root", self.root, stdin=text)
+
+    def test_lines_are_run_one_by_one(self):
+        done = self.feed(b"\nshow context version | count\r\n  show context mod | inc OMCI")
+        self.assertTrue(done.stdout.endswith(b"\n5\r\n" + OMCI_ROW), done.stdout)
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+
+    def test_start_up_is_reported_first(self):
+        lines = self.feed(b"").stdout.decode().splitlines()
+        self.assertRegex(lines[0], r"^sysctx \d+\.\d+\.\d+, simulated control card$")
+        self.assertEqual(lines[1], f"root: {self.root}")
+        self.assertEqual(
+            lines[2],
+            "  equipment.toml: device type 15, main card 0 in slot 0, 0 configured cards")
+        self.assertEqual(
+            lines[3], f"  /mnt/work/device_definition.ini: {len(card.DEFINITIONS)} bytes")
+        self.assertEqual(lines[4], "  /mnt/work/optmodule_definition.ini: missing")
+        self.assertIn("loaded: 2 versions, 1 modules, 1 system functions", lines)
+        self.assertRegex("\n".join(lines), r"module 1: SysContext, version \"\w{3} [ \d]\d \d{4} ")
+
+    def test_status_is_the_last_commands(self):
+        self.assertEqual(self.feed(b"hide\nshow context version\n").returncode, 0)
+        done = self.feed(b"show context version\nhide\n")
+        self.assertEqual((done.returncode, done.stderr), (2, b'Invalid command "hide"\n'))
+
+    def test_quit_ends(self):
+        done = self.feed(b"quit\nhide\n")
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,98 @@
+// The command line: what it gives and what is refused.
+#include "host/options.h"
+
+#include <gmock/gmock.h>
+
+namespace sysctx {
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+struct Line {
+  const char* name;
+  Arguments arguments;
+  Action action;
+  const char* root;
+  const char* command;
+  uint16_t port;
+};
+
+class OptionLine : public testing::TestWithParam<Line> {};
+
+TEST_P(OptionLine, IsUnderstood) {
+  const Options options = ParseOptions(GetParam().arguments);
+  EXPECT_EQ(options.action, GetParam().action);
+  EXPECT_EQ(options.root, GetParam().root);
+  EXPECT_EQ(options.command, GetParam().command);
+  EXPECT_EQ(options.port, GetParam().port);
+}
+
+const Line kLines[] = {
+    {"Nothing", {}, Action::kTerminal, "", "", 0},
+    {"Root", {"--root", "dir"}, Action::kTerminal, "dir", "", 0},
+    {"RootAttached", {"--root=dir"}, Action::kTerminal, "dir", "", 0},
+    {"RootLikeAnOption", {"--root", "--odd"}, Action::kTerminal, "--odd", "", 0},
+    {"Run", {"run", "show context version"}, Action::kRun, "", "show context version", 0},
+    {"RunWords", {"run", "show", "context"}, Action::kRun, "", "show context", 0},
+    {"RunDashWord", {"run", "show", "--root"}, Action::kRun, "", "show --root", 0},
+    {"RootAndRun", {"--root", "dir", "run", "x"}, Action::kRun, "dir", "x", 0},
+    {"Serve", {"serve", "--telnet", "2323"}, Action::kServe, "", "", 2323},
+    {"ServeAnyPort", {"serve", "--telnet=0"}, Action::kServe, "", "", 0},
+    {"ServeHighestPort", {"serve", "--telnet", "65535"}, Action::kServe, "", "", 65535},
+    {"ServeRootLast", {"serve", "--telnet", "1", "--root", "d"}, Action::kServe, "d", "", 1},
+    {"Help", {"--help"}, Action::kHelp, "", "", 0},
+    {"ShortHelp", {"-h"}, Action::kHelp, "", "", 0},
+    {"HelpWins", {"--help", "run", "x"}, Action::kHelp, "", "x", 0},
+    {"Version", {"--version"}, Action::kVersion, "", "", 0},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, OptionLine, testing::ValuesIn(kLines),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+struct BadLine {
+  const char* name;
+  Arguments arguments;
+  const char* message;
+};
+
+class BadOptionLine : public testing::TestWithParam<BadLine> {};
+
+TEST_P(BadOptionLine, IsRefused) {
+  EXPECT_THAT([] { ParseOptions(GetParam().arguments); },
+              testing::ThrowsMessage<OptionError>(GetParam().message));
+}
+
+const BadLine kBadLines[] = {
+    {"UnknownOption", {"--roots", "d"}, "unknown option '--roots' (see sysctx --help)"},
+    {"UnknownShortOption", {"-x"}, "unknown option '-x' (see sysctx --help)"},
+    {"UnknownWord", {"start"}, "unknown word 'start' (see sysctx --help)"},
+    {"WordBehindServe", {"serve", "run2"}, "unknown word 'run2' (see sysctx --help)"},
+    {"RootWithoutValue", {"--root"}, "option '--root' needs a value (see sysctx --help)"},
+    {"RootEmpty", {"--root", ""}, "option '--root' needs a value (see sysctx --help)"},
+    {"RootAttachedEmpty", {"--root="}, "option '--root' needs a value (see sysctx --help)"},
+    {"TelnetWithoutValue",
+     {"serve", "--telnet"},
+     "option '--telnet' needs a value (see sysctx --help)"},
+    {"RunWithoutCommand", {"run"}, "'run' needs a command (see sysctx --help)"},
+    {"RunBlankCommand", {"run", " \t"}, "'run' needs a command (see sysctx --help)"},
+    {"ServeWithoutPort", {"serve"}, "'serve' needs --telnet PORT (see sysctx --help)"},
+    {"TelnetWithoutServe", {"--telnet", "23"}, "--telnet goes with 'serve' (see sysctx --help)"},
+    {"PortName",
+     {"serve", "--telnet", "telnet"},
+     "bad port 'telnet': a number from 0 to 65535 is wanted"},
+    {"PortTooLarge",
+     {"serve", "--telnet", "65536"},
+     "bad port '65536': a number from 0 to 65535 is wanted"},
+    {"PortNegative",
+     {"serve", "--telnet", "-1"},
+     "bad port '-1': a number from 0 to 65535 is wanted"},
+    {"PortWithTail",
+     {"serve", "--telnet", "23x"},
+     "bad port '23x': a number from 0 to 65535 is wanted"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, BadOptionLine, testing::ValuesIn(kBadLines),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace sysctx
