@@ -6,8 +6,9 @@
 #include "sys_context/cfgfile.h"
 
 int32_t fgetline(FILE* stream, char* buffer, int32_t maximum) {
+  using namespace sys_context;
   if (stream == nullptr || buffer == nullptr) {
-    return sys_context::kLineReadError;
+    return kLineReadError;
   }
   const auto next_byte = [stream] {
     const int byte = std::getc(stream);
@@ -15,7 +16,7 @@ int32_t fgetline(FILE* stream, char* buffer, int32_t maximum) {
       return byte;
     }
     // Not ferror: an error that the stream met earlier is none of this line's.
-    return std::feof(stream) != 0 ? sys_context::kSourceEnd : sys_context::kSourceError;
+    return std::feof(stream) != 0 ? kSourceEnd : kSourceError;
   };
-  return sys_context::CopyLine(next_byte, buffer, maximum);
+  return CopyLine(next_byte, buffer, maximum);
 }

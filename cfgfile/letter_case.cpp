@@ -61,10 +61,12 @@ int32_t Convert(const LetterCase& letters, const char* source, uint32_t length, 
 
 int32_t ddStringToUppercase(const char* strOri, uint32_t ulOriLen, char* strDst,
                             uint32_t ulDstLen) {
-  return sys_context::Convert(sys_context::kUpper, strOri, ulOriLen, strDst, ulDstLen);
+  using namespace sys_context;
+  return Convert(kUpper, strOri, ulOriLen, strDst, ulDstLen);
 }
 
 int32_t ddStringToLowercase(const char* strOri, uint32_t ulOriLen, char* strDst,
                             uint32_t ulDstLen) {
-  return sys_context::Convert(sys_context::kLower, strOri, ulOriLen, strDst, ulDstLen);
+  using namespace sys_context;
+  return Convert(kLower, strOri, ulOriLen, strDst, ulDstLen);
 }

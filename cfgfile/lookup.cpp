@@ -202,17 +202,19 @@ int32_t LookUp(const char* file, const char* section, const char* key, char* val
 }  // namespace sys_context
 
 int32_t CFG_get_key(const char* file, const char* section, const char* key, char* value) {
+  using namespace sys_context;
   if (file == nullptr || section == nullptr || key == nullptr || value == nullptr) {
-    return sys_context::kNullArgument;
+    return kNullArgument;
   }
-  return sys_context::LookUp(file, section, key, value, nullptr, nullptr);
+  return LookUp(file, section, key, value, nullptr, nullptr);
 }
 
 int32_t CFG_get_key_offset(const char* file, const char* section, const char* key, char* value,
                            int32_t iOffsetIn, int32_t* piOffsetOut) {
+  using namespace sys_context;
   if (file == nullptr || section == nullptr || key == nullptr || value == nullptr ||
       piOffsetOut == nullptr) {
-    return sys_context::kNullArgument;
+    return kNullArgument;
   }
-  return sys_context::LookUp(file, section, key, value, &iOffsetIn, piOffsetOut);
+  return LookUp(file, section, key, value, &iOffsetIn, piOffsetOut);
 }

@@ -38,16 +38,14 @@ char* KeepOnly(char* text, std::string_view part) {
 }  // namespace
 }  // namespace sys_context
 
-using sys_context::Console;
-using sys_context::LowBits;
-
 int32_t split_key_val(char* text, char** key, char** value) {
+  using namespace sys_context;
   if (text == nullptr || key == nullptr || value == nullptr) {
-    return static_cast<int32_t>(sys_context::Split::kEmpty);
+    return static_cast<int32_t>(Split::kEmpty);
   }
-  sys_context::Entry entry;
-  const auto split = sys_context::SplitEntry(text, entry);
-  if (split == sys_context::Split::kEntry) {
+  Entry entry;
+  const auto split = SplitEntry(text, entry);
+  if (split == Split::kEntry) {
     *key = text + (entry.key.data() - text);
     *value = text + (entry.value.data() - text);
     (*key)[entry.key.size()] = '\0';
@@ -56,26 +54,29 @@ int32_t split_key_val(char* text, char** key, char** value) {
 }
 
 char* ltrimstr(char* text) {
+  using namespace sys_context;
   if (text == nullptr) {
     Console("\r\nltrimstr err! dstr = 0x%x, sstr = 0x%x", LowBits(text), LowBits(text));
     return text;
   }
-  return sys_context::KeepOnly(text, sys_context::TrimLeft(text));
+  return KeepOnly(text, TrimLeft(text));
 }
 
 char* rtrimstr(char* text) {
+  using namespace sys_context;
   if (text == nullptr) {
     Console("\r\nrtrimstr err! dstr = 0x%x, sstr = 0x%x", LowBits(text), LowBits(text));
     return text;
   }
-  return sys_context::KeepOnly(text, sys_context::TrimRight(text));
+  return KeepOnly(text, TrimRight(text));
 }
 
 char* alltrim(char* text) {
+  using namespace sys_context;
   if (text == nullptr) {
     // kept as is: names rtrim, a function that there is not.
     Console("\r\nrtrim err! str = 0x%x", LowBits(text));
     return text;
   }
-  return sys_context::KeepOnly(text, sys_context::Trim(text));
+  return KeepOnly(text, Trim(text));
 }

@@ -77,8 +77,9 @@ int32_t RegisterModule() {
 }  // namespace sys_context
 
 int32_t ddCmdInit(int32_t, int32_t, int32_t) {
-  for (CommandRecord* const record : sys_context::kRecords) {
-    install_element(sys_context::kDiagnosticNode, record);
+  using namespace sys_context;
+  for (CommandRecord* const record : kRecords) {
+    install_element(kDiagnosticNode, record);
   }
-  return sys_context::RegisterModule();
+  return RegisterModule();
 }

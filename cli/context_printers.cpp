@@ -5,9 +5,8 @@
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
 
-using namespace sys_context;
-
 int32_t ddPrintVersionInformation(void* vty) {
+  using namespace sys_context;
   const uint32_t count = gstVersionInformation.ulSupportedSoftVerNum;
   if (count > MAX_SUPPORTED_SOFT_VER_NUM) {
     vty_out(
@@ -29,6 +28,7 @@ int32_t ddPrintVersionInformation(void* vty) {
 }
 
 int32_t ddPrintAllModuleInformation(void* vty) {
+  using namespace sys_context;
   const uint32_t count = gstModuleTypeList.ulModuleTypeNum;
   if (count > MAX_SUPPORTED_MODULE_TYPE_NUM) {
     vty_out(vty, "\r\nddPrintAllModuleInformation err! ulModuleTypeNum = %d", count);
@@ -54,6 +54,7 @@ int32_t ddPrintAllModuleInformation(void* vty) {
 }
 
 int32_t ddPrintSysSupportFuncInformation(void* vty) {
+  using namespace sys_context;
   const uint32_t count = gstSysSupportFuncType.ulSupportedSysFunctionTypeNum;
   if (count > MAX_SUPPORTED_MODULE_TYPE_NUM) {
     // kept as is: the messages of this listing name themselves "debug_...".

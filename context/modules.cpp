@@ -158,7 +158,8 @@ int32_t AskStrictly(const StrictQuery& query, uint32_t type, Output* output, Ans
 }  // namespace sys_context
 
 int32_t ddReadAllModuleInformation(const char* strFileName) {
-  return LoadNamedSections(sys_context::kModuleList, strFileName, gstModuleTypeList.ulModuleTypeNum,
+  using namespace sys_context;
+  return LoadNamedSections(kModuleList, strFileName, gstModuleTypeList.ulModuleTypeNum,
                            gstModuleTypeList.pModuleTypeArray, ddReadOneModuleInformation);
 }
 
@@ -236,8 +237,9 @@ int32_t ddIsModuleInList(uint32_t ulModuleType, uint32_t* pulIsSupported) {
 }
 
 int32_t ddGetModuleSize(uint32_t ulModuleType, uint8_t* pulSize) {
+  using namespace sys_context;
   // kept as is: the size leaves as one byte, and what exceeds that is cut.
-  return sys_context::AskStrictly(
-      sys_context::kGetModuleSize, ulModuleType, pulSize,
-      [](const ModuleInformation& module) { return static_cast<uint8_t>(module.ulSize); });
+  return AskStrictly(kGetModuleSize, ulModuleType, pulSize, [](const ModuleInformation& module) {
+    return static_cast<uint8_t>(module.ulSize);
+  });
 }

@@ -61,35 +61,37 @@ class WorkBuffer {
 }  // namespace sys_context
 
 int32_t ddInit() {
-  sys_context::ClearTables();
-  if (const int32_t code = ddReadContextFile(); code != sys_context::kOk) {
+  using namespace sys_context;
+  ClearTables();
+  if (const int32_t code = ddReadContextFile(); code != kOk) {
     std::puts("ddInit initialize......failed!\r");
     return code;
   }
-  return sys_context::kOk;
+  return kOk;
 }
 
 int32_t ddReadContextFile() {
+  using namespace sys_context;
   // kept as is: the loaders read the file by its path and never see the buffer.
-  const sys_context::WorkBuffer buffer;
+  const WorkBuffer buffer;
   if (!buffer.is_there()) {
     std::puts("\r\nddReadContextFile err! Not enough memory for pFileBuf buffer.\r");
-    return sys_context::kNoWorkBuffer;
+    return kNoWorkBuffer;
   }
   const int32_t code = ddParseContextFile();
-  if (code != sys_context::kOk) {
-    sys_context::Console("\r\nddReadContextFile->ddParseContextFile err! iResult = %d", code);
+  if (code != kOk) {
+    Console("\r\nddReadContextFile->ddParseContextFile err! iResult = %d", code);
   }
   return code;
 }
 
 int32_t ddParseContextFile() {
-  for (const sys_context::Loader& loader : sys_context::kLoaders) {
-    if (const int32_t code = loader.load(sys_context::kDeviceDefinitionFile);
-        code != sys_context::kOk) {
-      Report(sys_context::Gate::kAlways, loader.failure, code, sys_context::kDeviceDefinitionFile);
+  using namespace sys_context;
+  for (const Loader& loader : kLoaders) {
+    if (const int32_t code = loader.load(kDeviceDefinitionFile); code != kOk) {
+      Report(Gate::kAlways, loader.failure, code, kDeviceDefinitionFile);
       return code;
     }
   }
-  return sys_context::kOk;
+  return kOk;
 }
