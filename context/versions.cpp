@@ -20,14 +20,16 @@ constexpr char kSeparator = '|';
 
 // Stores one version; one that is too long is reported and left out.
 bool StoreVersion(std::string_view version, SupportedSoftVer& entry) {
-  entry = {};
-  const uint32_t length = StoreName(version, entry.acSupportedSoftVer, entry.ulSupportedSoftVerLen);
+  SupportedSoftVer stored = {};
+  const uint32_t length =
+      StoreName(version, stored.acSupportedSoftVer, stored.ulSupportedSoftVerLen);
   if (length > MAX_SUPPORTED_SOFT_VER_LEN) {
     Console(
         "\r\nddReadVersionInformation err! ulSupportedSoftVerLen = %d, MAX_SUPPORTED_SOFT_VER_LEN = %d",
         length, MAX_SUPPORTED_SOFT_VER_LEN);
     return false;
   }
+  entry = stored;
   return true;
 }
 

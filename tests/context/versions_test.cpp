@@ -201,6 +201,16 @@ TEST_F(Versions, NullPath) {
   }
 }
 
+// A version that is left out does not touch the place that it would have had.
+TEST_F(Versions, LeftOutVersionTouchesNoEntry) {
+  FillWithOldData();
+  const SupportedSoftVer before = gstVersionInformation.astSupportedSoftVer[1];
+  const test::DefinitionFile file(WithValue("a|" + string(100, 'b')));
+  EXPECT_EQ(ddReadVersionInformation(file.path()), 0);
+  EXPECT_EQ(gstVersionInformation.ulSupportedSoftVerNum, 1u);
+  EXPECT_EQ(std::memcmp(&gstVersionInformation.astSupportedSoftVer[1], &before, sizeof before), 0);
+}
+
 TEST_F(Versions, LoadAllocatesNothing) {
   const test::DefinitionFile file(WithValue("a|b"));
   test::Faults faults;
