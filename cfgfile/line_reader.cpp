@@ -163,19 +163,15 @@ void LineReader::SkipLinesWithoutBracket() {
   size_t chunks_without = 0;
   while (at + kChunk <= end_ && chunks_without < kSuspiciousChunks) {
     const ChunkLook chunk = LookAtChunk(block_ + at);
-    size_t found = chunk.line_feeds;
-    size_t bytes = kChunk;
     if (chunk.has_stop) {
       const StopLook look = LookForStop(block_ + at);
-      found = look.line_feeds;
-      bytes = look.bytes;
-    }
-    line_feeds += found;
-    at += bytes;
-    if (bytes < kChunk) {
+      line_feeds += look.line_feeds;
+      at += look.bytes;
       break;
     }
-    chunks_without = found == 0 ? chunks_without + 1 : 0;
+    line_feeds += chunk.line_feeds;
+    at += kChunk;
+    chunks_without = chunk.line_feeds == 0 ? chunks_without + 1 : 0;
   }
   // Back to the start of the line in which the looking stopped.
   while (at > next_ && block_[at - 1] != '\n') {

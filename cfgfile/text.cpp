@@ -35,6 +35,16 @@ char* KeepOnly(char* text, std::string_view part) {
   return text;
 }
 
+// Trims one side. The message shows source and destination, which are the same.
+char* TrimInPlace(char* text, std::string_view (*trim)(std::string_view),
+                  const Message<uint32_t, uint32_t>& null_text) {
+  if (text == nullptr) {
+    Report(Gate::kAlways, null_text, LowBits(text), LowBits(text));
+    return text;
+  }
+  return KeepOnly(text, trim(text));
+}
+
 }  // namespace
 }  // namespace sys_context
 
@@ -55,20 +65,12 @@ int32_t split_key_val(char* text, char** key, char** value) {
 
 char* ltrimstr(char* text) {
   using namespace sys_context;
-  if (text == nullptr) {
-    Console("\r\nltrimstr err! dstr = 0x%x, sstr = 0x%x", LowBits(text), LowBits(text));
-    return text;
-  }
-  return KeepOnly(text, TrimLeft(text));
+  return TrimInPlace(text, TrimLeft, "\r\nltrimstr err! dstr = 0x%x, sstr = 0x%x");
 }
 
 char* rtrimstr(char* text) {
   using namespace sys_context;
-  if (text == nullptr) {
-    Console("\r\nrtrimstr err! dstr = 0x%x, sstr = 0x%x", LowBits(text), LowBits(text));
-    return text;
-  }
-  return KeepOnly(text, TrimRight(text));
+  return TrimInPlace(text, TrimRight, "\r\nrtrimstr err! dstr = 0x%x, sstr = 0x%x");
 }
 
 char* alltrim(char* text) {

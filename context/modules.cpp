@@ -1,6 +1,7 @@
 // The kinds of module that the device knows: their loader and the queries.
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 #include "cfgfile/keys.h"
 #include "cfgfile/named_sections.h"
