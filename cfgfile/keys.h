@@ -2,8 +2,10 @@
 // and key failed.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <optional>
 
 #include "common/messages.h"
 #include "sys_context/cfgfile.h"
@@ -26,8 +28,54 @@ struct NumberedKey {
   char text[CFG_VALUE_SIZE];
 };
 
-// Reads a key; a failure is reported. Returns the lookup's code.
-[[nodiscard]] int32_t ReadKey(const char* file, const char* section, const char* key, Value& value,
-                              const KeyMessage& failure, Gate gate = Gate::kAlways);
+// Where a loader looks keys up: in the whole file, or in what follows a position.
+class Source {
+ public:
+  Source(const char* file) : file_(file) {}  // implicit: a path is a source
+  Source(const char* file, int32_t start) : file_(file), start_(start) {}
+
+  const char* file() const { return file_; }
+  int32_t start() const { return start_.value_or(0); }
+
+  // Returns the lookup's code. LookUpAndMove lets a source that has a position
+  // begin at the section's header from then on, if the key was found.
+  [[nodiscard]] int32_t LookUp(const char* section, const char* key, Value& value) const;
+  [[nodiscard]] int32_t LookUpAndMove(const char* section, const char* key, Value& value);
+
+ private:
+  const char* file_;
+  std::optional<int32_t> start_;
+};
+
+// Read a key; a failure is reported. Return the lookup's code.
+[[nodiscard]] int32_t ReadKey(const Source& source, const char* section, const char* key,
+                              Value& value, const KeyMessage& failure, Gate gate = Gate::kAlways);
+[[nodiscard]] int32_t ReadKeyAndMove(Source& source, const char* section, const char* key,
+                                     Value& value, const KeyMessage& failure);
+
+// A key that gives a number of things.
+struct CountKey {
+  const char* key;
+  uint32_t limit;
+  int32_t above_limit_code;
+  Message<uint32_t, uint32_t> above_limit;  // the number, the limit
+};
+
+// Converts its value. A number above the limit is reported; the key's own code is
+// returned.
+[[nodiscard]] int32_t ParseCount(const CountKey& key, const Value& value, uint32_t& count);
+
+// Reads the key "Name" into a name field; a failure is reported. Returns kOk,
+// kKeyUnreadable or, with the length needed in the message, kTextTooLong.
+[[nodiscard]] int32_t ReadName(const Source& source, const char* section, char* field, size_t size,
+                               uint32_t& length, const KeyMessage& unreadable,
+                               const Message<uint32_t>& too_long);
+
+template <size_t size>
+[[nodiscard]] int32_t ReadName(const Source& source, const char* section, char (&field)[size],
+                               uint32_t& length, const KeyMessage& unreadable,
+                               const Message<uint32_t>& too_long) {
+  return ReadName(source, section, field, size, length, unreadable, too_long);
+}
 
 }  // namespace sys_context

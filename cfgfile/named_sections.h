@@ -4,60 +4,78 @@
 // reported and left out.
 #pragma once
 
+#include <optional>
+
 #include "cfgfile/keys.h"
 #include "common/codes.h"
 #include "common/memory.h"
-#include "common/numbers.h"
 
 namespace sys_context {
 
 // One such list, and how its loader words its failures.
 struct ListSection {
   const char* section;
-  const char* count_key;
-  const char* entry_key;  // the number follows
-  uint32_t limit;
-  int32_t above_limit_code;
+  CountKey count;
+  const char* entry_key;               // the number follows
+  bool no_memory_clears_count = true;  // of the table's records
 
   Message<uint32_t> null_file;
   KeyMessage key_unreadable;
-  Message<uint32_t, uint32_t> above_limit;  // the number announced, the limit
+  std::optional<Message<uint32_t>> empty_list = {};  // the number announced, 0
   Message<uint32_t> no_memory;
   Message<int32_t, const char*> record_failed;  // its code, its section
+
+  // Set: the entries' sections stand behind the list, in its order, so the search
+  // for each begins where the one before was found. One that is not found there,
+  // or has no "Type", ends the load.
+  std::optional<KeyMessage> section_not_found = {};
 };
 
 // Reads how many entries the list announces; they are within the limit on kOk.
-[[nodiscard]] int32_t ReadAnnounced(const ListSection& list, const char* file, uint32_t& announced);
+[[nodiscard]] int32_t ReadAnnounced(const ListSection& list, Source& source, uint32_t& announced);
 
-// Loads the list of `file` into a table's `count` and `records`. `read_record`
-// reads one record from its section.
+// Moves `source` to the section of an entry, if the list goes by order.
+[[nodiscard]] int32_t FindEntry(const ListSection& list, Source& source, const char* section);
+
+// Loads the list of `file` into a table's `count` and `records`. On kOk there is
+// an array unless no entry was announced.
 template <typename Record>
 [[nodiscard]] int32_t LoadNamedSections(
     const ListSection& list, const char* file, uint32_t& count, Record**& records,
-    int32_t (*read_record)(const char* file, const char* section, Record** record)) {
-  count = 0;
+    int32_t (*read_record)(const Source& source, const char* section, Record** record)) {
+  Source source = list.section_not_found ? Source(file, 0) : Source(file);
   uint32_t announced = 0;
-  if (const int32_t code = ReadAnnounced(list, file, announced); code != kOk) {
+  if (const int32_t code = ReadAnnounced(list, source, announced); code != kOk) {
+    count = 0;
     return code;
   }
-  records = nullptr;
   if (announced == 0) {
+    count = 0;
+    records = nullptr;
     return kOk;
   }
   records = NewArray<Record*>(announced).release();
   if (records == nullptr) {
     Report(Gate::kAlways, list.no_memory, LowBits(records));
+    if (list.no_memory_clears_count) {
+      count = 0;
+    }
     return kNoMemory;
   }
+  const Source list_section = source;
   uint32_t stored = 0;
   for (uint32_t number = 1; number <= announced; ++number) {
     Value section;
     const NumberedKey key(list.entry_key, number);
-    if (ReadKey(file, list.section, key.text, section, list.key_unreadable) != kOk) {
+    if (ReadKey(list_section, list.section, key.text, section, list.key_unreadable) != kOk) {
       continue;
     }
+    if (const int32_t code = FindEntry(list, source, section.text); code != kOk) {
+      // kept as is: the count stays as it was, though the array is new.
+      return code;
+    }
     Record* record = nullptr;
-    if (const int32_t code = read_record(file, section.text, &record); code != kOk) {
+    if (const int32_t code = read_record(source, section.text, &record); code != kOk) {
       Report(Gate::kAlways, list.record_failed, code, section.text);
       continue;
     }

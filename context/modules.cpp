@@ -1,10 +1,10 @@
 // The kinds of module that the device knows: their loader and the queries.
-#include <algorithm>
 #include <cstring>
 #include <type_traits>
 
 #include "cfgfile/keys.h"
 #include "cfgfile/named_sections.h"
+#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/memory.h"
 #include "common/messages.h"
@@ -19,14 +19,17 @@ namespace {
 
 constexpr ListSection kModuleList = {
     .section = "ModuleTypeList",
-    .count_key = "ModuleNum",
+    .count =
+        {
+            .key = "ModuleNum",
+            .limit = MAX_SUPPORTED_MODULE_TYPE_NUM,
+            .above_limit_code = kTooManyModules,
+            .above_limit =
+                "\r\nddReadAllModuleInformation err! ulModuleTypeNum = %d, MAX_SUPPORTED_MODULE_TYPE_NUM = %d",
+        },
     .entry_key = "Module",
-    .limit = MAX_SUPPORTED_MODULE_TYPE_NUM,
-    .above_limit_code = kTooManyModules,
     .null_file = "\r\nddReadAllModuleInformation err!, strFileName = 0x%x",
     .key_unreadable = "\r\nddReadAllModuleInformation err! iResult = %d, section = %s, key = %s",
-    .above_limit =
-        "\r\nddReadAllModuleInformation err! ulModuleTypeNum = %d, MAX_SUPPORTED_MODULE_TYPE_NUM = %d",
     .no_memory = "\r\nddReadAllModuleInformation->malloc err! pModuleTypeArray = 0x%x",
     .record_failed =
         "\r\nddReadAllModuleInformation->ddReadOneModuleInformation err! iResult = %d, section = %s",
@@ -37,6 +40,7 @@ constexpr KeyMessage kTypeUnreadable =
     "\r\nddReadOneModuleInformation err! iResult = %d, strSectionFrameNameBuf = %s, Key = %s";
 constexpr KeyMessage kUnreadable =
     "\r\nddReadOneModuleInformation err! iResult = %d, section = %s, key = %s";
+constexpr Message<uint32_t> kNameTooLong = "\r\nddReadOneModuleInformation err! ulNameLen = %d";
 
 int32_t ReadModule(const char* file, const char* section, ModuleInformation& module) {
   Value value;
@@ -44,13 +48,10 @@ int32_t ReadModule(const char* file, const char* section, ModuleInformation& mod
     return kKeyUnreadable;
   }
   module.ulModuleType = ParseUnsigned(value.text);
-  if (ReadKey(file, section, "Name", value, kUnreadable) != kOk) {
-    return kKeyUnreadable;
-  }
-  if (const uint32_t length = StoreName(value.text, module.acName, module.ulNameLen);
-      length > MAX_MODULE_NAME_LEN) {
-    Console("\r\nddReadOneModuleInformation err! ulNameLen = %d", length);
-    return kTextTooLong;
+  if (const int32_t code =
+          ReadName(file, section, module.acName, module.ulNameLen, kUnreadable, kNameTooLong);
+      code != kOk) {
+    return code;
   }
   if (ReadKey(file, section, "Size", value, kUnreadable) != kOk) {
     return kKeyUnreadable;
@@ -75,15 +76,10 @@ int32_t CheckList(const Message<uint32_t, Limit...>& corrupt, const Message<uint
   return kOk;
 }
 
-// The first module that fulfils `wanted`, or null; empty places are passed over.
+// The first module that fulfils `wanted`, or null.
 template <typename Wanted>
 const ModuleInformation* FindModule(Wanted wanted) {
-  ModuleInformation** const begin = gstModuleTypeList.pModuleTypeArray;
-  ModuleInformation** const end = begin + gstModuleTypeList.ulModuleTypeNum;
-  ModuleInformation** const found = std::find_if(begin, end, [&](const ModuleInformation* module) {
-    return module != nullptr && wanted(*module);
-  });
-  return found == end ? nullptr : *found;
+  return FindRecord(gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray, wanted);
 }
 
 constexpr Message<uint32_t, uint32_t> kNameByTypeCorrupt =
@@ -160,8 +156,12 @@ int32_t AskStrictly(const StrictQuery& query, uint32_t type, Output* output, Ans
 
 int32_t ddReadAllModuleInformation(const char* strFileName) {
   using namespace sys_context;
-  return LoadNamedSections(kModuleList, strFileName, gstModuleTypeList.ulModuleTypeNum,
-                           gstModuleTypeList.pModuleTypeArray, ddReadOneModuleInformation);
+  return LoadNamedSections<ModuleInformation>(
+      kModuleList, strFileName, gstModuleTypeList.ulModuleTypeNum,
+      gstModuleTypeList.pModuleTypeArray,
+      [](const Source& source, const char* section, ModuleInformation** module) {
+        return ddReadOneModuleInformation(source.file(), section, module);
+      });
 }
 
 int32_t ddReadOneModuleInformation(const char* strFileName, const char* strModuleSection,

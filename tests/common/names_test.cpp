@@ -92,6 +92,7 @@ constexpr EqualRow kEquals[] = {
     {.name = "FieldFull", .text = "1234567", .field = "1234567", .length = 8, .equal = true},
     {.name = "FieldFullOther", .text = "1234568", .field = "1234567", .length = 8, .equal = false},
     {.name = "LengthOnlyOfTheStart", .text = "GPXX", .field = "GPON", .length = 2, .equal = true},
+    {.name = "LengthOfNothing", .text = "GPON", .field = "", .length = 0, .equal = true},
     {.name = "LengthBeyondTheField",
      .text = "1234567",
      .field = "1234567",

@@ -1,0 +1,82 @@
+// What the queries do with a table: records behind a count and an array of
+// pointers, in which places may be empty.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+#include "common/codes.h"
+#include "common/messages.h"
+#include "common/names.h"
+
+namespace sys_context {
+
+// The first record that fulfils `wanted`, or null; empty places are passed over.
+template <typename Record, typename Wanted>
+Record* FindRecord(uint32_t count, Record* const* records, Wanted wanted) {
+  Record* const* const end = records + count;
+  Record* const* const found = std::find_if(
+      records, end, [&](Record* record) { return record != nullptr && wanted(*record); });
+  return found == end ? nullptr : *found;
+}
+
+// What a query checks before it looks into a table, and how it words a refusal.
+struct TableCheck {
+  uint32_t limit;  // of records
+  int32_t above_limit_code;
+  int32_t no_array_code;
+
+  Message<uint32_t> above_limit;  // the count
+  Message<uint32_t> no_array;
+};
+
+[[nodiscard]] int32_t CheckTable(const TableCheck& check, uint32_t count, const void* records);
+
+// A query for the place of a name in a table.
+struct NameQuery {
+  TableCheck table;
+
+  Message<uint32_t, uint32_t, uint32_t> null_argument;  // the name and both outputs
+  Message<uint32_t> name_too_long;                      // its length
+  Message<uint32_t, uint32_t> corrupt_length;           // a record's name length, its place
+};
+
+// Asks it. Stores 1 and the place of the first record of that name; 0 and 0 when
+// there is none and after a failure other than a null argument.
+template <typename Record>
+int32_t AskForName(const NameQuery& query, uint32_t count, Record* const* records, const char* name,
+                   uint32_t* is_supported, uint32_t* index) {
+  if (name == nullptr || is_supported == nullptr || index == nullptr) {
+    Report(Gate::kDebug, query.null_argument, LowBits(name), LowBits(is_supported), LowBits(index));
+    return kNullArgument;
+  }
+  *is_supported = 0;
+  *index = 0;
+  constexpr size_t kFieldSize = sizeof(Record::acName);
+  if (const size_t length = std::strlen(name); length + 1 > kFieldSize) {
+    Report(Gate::kDebug, query.name_too_long, static_cast<uint32_t>(length));
+    return kTextTooLong;
+  }
+  if (const int32_t code = CheckTable(query.table, count, records); code != kOk) {
+    return code;
+  }
+  for (uint32_t i = 0; i < count; ++i) {
+    const Record* const record = records[i];
+    if (record == nullptr) {
+      continue;
+    }
+    if (record->ulNameLen > kFieldSize) {
+      Report(Gate::kDebug, query.corrupt_length, record->ulNameLen, i);
+      return kTextTooLong;
+    }
+    if (NameEquals(name, record->acName, record->ulNameLen)) {
+      *is_supported = 1;
+      *index = i;
+      return kOk;
+    }
+  }
+  return kNoSuchName;
+}
+
+}  // namespace sys_context

@@ -1,0 +1,179 @@
+// What the queries do with a table: finding a record, and finding a name.
+#include "common/catalog.h"
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "support/tables.h"
+
+namespace {
+
+using std::string;
+using sys_context::FindRecord;
+
+// ---- A record ------------------------------------------------------------------
+
+struct Number {
+  uint32_t type;
+};
+
+struct FindRow {
+  const char* name;
+  std::vector<int> types;  // of the places; -1 is an empty one
+  uint32_t count;
+  uint32_t wanted;
+  int place;                    // of the record that is found, -1 for none
+  std::vector<uint32_t> asked;  // the types that were looked at, in order
+  friend std::ostream& operator<<(std::ostream& out, const FindRow& row) { return out << row.name; }
+};
+
+class RecordSearch : public testing::TestWithParam<FindRow> {};
+
+TEST_P(RecordSearch, GivesTheFirstWantedRecord) {
+  std::vector<Number> records;
+  for (const int type : GetParam().types) {
+    records.push_back({static_cast<uint32_t>(type)});
+  }
+  std::vector<Number*> places;
+  for (size_t i = 0; i < records.size(); ++i) {
+    places.push_back(GetParam().types[i] < 0 ? nullptr : &records[i]);
+  }
+  std::vector<uint32_t> asked;
+
+  Number* const found = FindRecord(GetParam().count, places.data(), [&](const Number& number) {
+    asked.push_back(number.type);
+    return number.type == GetParam().wanted;
+  });
+
+  EXPECT_EQ(found,
+            GetParam().place < 0 ? nullptr : &records[static_cast<size_t>(GetParam().place)]);
+  EXPECT_EQ(asked, GetParam().asked);
+}
+
+const FindRow kFinds[] = {
+    {"First", {1, 2, 3}, 3, 1, 0, {1}},
+    {"Middle", {1, 2, 3}, 3, 2, 1, {1, 2}},
+    {"Last", {1, 2, 3}, 3, 3, 2, {1, 2, 3}},
+    {"None", {1, 2, 3}, 3, 4, -1, {1, 2, 3}},
+    {"FirstOfTwo", {1, 2, 2}, 3, 2, 1, {1, 2}},
+    {"NotBehindTheCount", {1, 2, 3}, 2, 3, -1, {1, 2}},
+    {"NothingInTheCount", {1, 2, 3}, 0, 1, -1, {}},
+    {"EmptyPlacesArePassedOver", {-1, 1, -1, 2}, 4, 2, 3, {1, 2}},
+    {"OnlyEmptyPlaces", {-1, -1}, 2, 1, -1, {}},
+    {"EmptyPlaceAtTheEnd", {1, -1}, 2, 2, -1, {1}},
+    {"One", {7}, 1, 7, 0, {7}},
+};
+INSTANTIATE_TEST_SUITE_P(Tables, RecordSearch, testing::ValuesIn(kFinds),
+                         testing::PrintToStringParamName());
+
+TEST(RecordSearch, OfNoTable) {
+  Number* const* const none = nullptr;
+  EXPECT_EQ(FindRecord(0, none, [](const Number&) { return true; }), nullptr);
+}
+
+TEST(RecordSearch, LeavesReadOnlyRecordsReadOnly) {
+  const Number number = {5};
+  const Number* const places[] = {&number};
+  const Number* const found = FindRecord(1, places, [](const Number&) { return true; });
+  EXPECT_EQ(found, &number);
+}
+
+// ---- A name --------------------------------------------------------------------
+
+struct Named {
+  uint32_t ulNameLen;
+  char acName[5];
+};
+
+constexpr sys_context::NameQuery kQuery = {
+    .table =
+        {
+            .limit = 3,
+            .above_limit_code = -101,
+            .no_array_code = -102,
+            .above_limit = "count %d;",
+            .no_array = "array %x;",
+        },
+    .null_argument = "null %x %x %x;",
+    .name_too_long = "long %d;",
+    .corrupt_length = "length %d at %d;",
+};
+
+struct AskRow {
+  const char* name;
+  uint32_t count;
+  bool has_array;
+  string asked;
+  int32_t code;
+  uint32_t index = 0;
+  string debug_console = "";
+  friend std::ostream& operator<<(std::ostream& out, const AskRow& row) { return out << row.name; }
+};
+
+class NameSearch : public test::LibraryTest, public testing::WithParamInterface<AskRow> {
+ protected:
+  test::Console console_;
+  Named first_ = {3, "AB"};
+  Named last_ = {5, "ABCD"};
+  Named* places_[3] = {&first_, nullptr, &last_};
+};
+
+TEST_P(NameSearch, GivesThePlace) {
+  for (const int32_t debug : {0, 1}) {
+    ddDebugPrint = debug;
+    uint32_t is_supported = 77;
+    uint32_t index = 77;
+    EXPECT_EQ(AskForName(kQuery, GetParam().count, GetParam().has_array ? places_ : nullptr,
+                         GetParam().asked.c_str(), &is_supported, &index),
+              GetParam().code);
+    EXPECT_EQ(is_supported, GetParam().code == 0 ? 1u : 0u);
+    EXPECT_EQ(index, GetParam().index);
+    EXPECT_EQ(console_.Text(), debug != 0 ? GetParam().debug_console : "");
+  }
+}
+
+const AskRow kAsks[] = {
+    {"First", 3, true, "AB", 0, 0},
+    {"LastWithALengthThatFillsTheField", 3, true, "ABCD", 0, 2},
+    {"Unknown", 3, true, "ABC", -32},
+    {"BehindTheCount", 2, true, "ABCD", -32},
+    {"NameTooLongForTheField", 4, false, "ABCDE", -33, 0, "long 5;"},
+    {"CountAboveTheLimit", 4, false, "AB", -101, 0, "count 4;"},
+    {"LargestCount", 0xffffffff, true, "AB", -101, 0, "count -1;"},
+    {"NoArray", 3, false, "AB", -102, 0, "array 0;"},
+};
+INSTANTIATE_TEST_SUITE_P(Tables, NameSearch, testing::ValuesIn(kAsks),
+                         testing::PrintToStringParamName());
+
+TEST_F(NameSearch, StopsAtALengthThatTheFieldCannotHold) {
+  ddDebugPrint = 1;
+  last_.ulNameLen = 6;
+  uint32_t is_supported = 77;
+  uint32_t index = 77;
+  EXPECT_EQ(AskForName(kQuery, 3, places_, "ABCD", &is_supported, &index), -33);
+  EXPECT_EQ(console_.Text(), "length 6 at 2;");
+  EXPECT_EQ(is_supported, 0u);
+  EXPECT_EQ(index, 0u);
+}
+
+TEST_F(NameSearch, NullArgumentsTouchNothing) {
+  uint32_t is_supported = 77;
+  uint32_t index = 78;
+  const char* const no_name = nullptr;
+  uint32_t* const no_output = nullptr;
+  for (const int32_t debug : {0, 1}) {
+    ddDebugPrint = debug;
+    EXPECT_EQ(AskForName(kQuery, 3, places_, no_name, &is_supported, &index), -2);
+    EXPECT_EQ(AskForName(kQuery, 3, places_, "AB", no_output, &index), -2);
+    EXPECT_EQ(AskForName(kQuery, 3, places_, "AB", &is_supported, no_output), -2);
+    EXPECT_EQ(console_.Text().empty(), debug == 0);
+    EXPECT_EQ(AskForName(kQuery, 3, places_, no_name, no_output, no_output), -2);
+    EXPECT_EQ(console_.Text(), debug != 0 ? "null 0 0 0;" : "");
+  }
+  EXPECT_EQ(is_supported, 77u);
+  EXPECT_EQ(index, 78u);
+}
+
+}  // namespace
