@@ -133,7 +133,7 @@ bool CanEnd(const cli_command* command, size_t arguments) {
 
 void AddArgument(const cli_command* command, size_t number, Choices& choices) {
   if (const cli_optarg* argument = ArgumentNumber(command, number)) {
-    choices.list.push_back({"<" + Text(argument->name) + ">", Text(argument->help)});
+    choices.list.push_back({Format("<%s>", argument->name), Text(argument->help)});
   }
 }
 
@@ -187,7 +187,7 @@ std::string DescribeAmbiguity(const cli_def* cli, std::string_view text) {
     }
     std::string message = "Ambiguous command \"" + begin + "\":";
     for (const cli_command* command : walk.ambiguous) {
-      message += " " + Text(command->command);
+      message += Format(" %s", command->command);
     }
     return message;
   }
