@@ -5,44 +5,35 @@
 #include "common/messages.h"
 #include "sys_context/cli.h"
 
-constinit CommandRecord ddShowVersionInfo_CMD = {
-    .string = "show context version",
-    .func = ddShowVersionInfo_Func,
-    .doc = "show info.\ncontext info.\nversion info.\n",
-    .name = "ddShowVersionInfo_CMD",
-    .host = {},
-};
+// A command that prints a table: its handler and its record. `help` explains each
+// word of the command in a line.
+#define SHOW_COMMAND(record, handler, words, help, printer)     \
+  int32_t handler(CommandRecord*, void* vty, int32_t, char**) { \
+    printer(vty);                                               \
+    return sys_context::kOk;                                    \
+  }                                                             \
+  constinit CommandRecord record = {                            \
+      .string = (words),                                        \
+      .func = (handler),                                        \
+      .doc = (help),                                            \
+      .name = #record,                                          \
+      .host = {},                                               \
+  }
 
-constinit CommandRecord ddShowAllModuleInfo_CMD = {
-    .string = "show context module_all",
-    .func = ddShowAllModuleInfo_Func,
-    .doc = "show info.\ncontext info.\nall module info.\n",
-    .name = "ddShowAllModuleInfo_CMD",
-    .host = {},
-};
-
-constinit CommandRecord ddShowSysSupportFuncInfo_CMD = {
-    .string = "show context sys_support_func",
-    .func = ddShowSysSupportFuncInfo_Func,
-    .doc = "show info.\ncontext info.\nsys support func info.\n",
-    .name = "ddShowSysSupportFuncInfo_CMD",
-    .host = {},
-};
-
-int32_t ddShowVersionInfo_Func(CommandRecord*, void* vty, int32_t, char**) {
-  ddPrintVersionInformation(vty);
-  return sys_context::kOk;
-}
-
-int32_t ddShowAllModuleInfo_Func(CommandRecord*, void* vty, int32_t, char**) {
-  ddPrintAllModuleInformation(vty);
-  return sys_context::kOk;
-}
-
-int32_t ddShowSysSupportFuncInfo_Func(CommandRecord*, void* vty, int32_t, char**) {
-  ddPrintSysSupportFuncInformation(vty);
-  return sys_context::kOk;
-}
+SHOW_COMMAND(ddShowVersionInfo_CMD, ddShowVersionInfo_Func, "show context version",
+             "show info.\ncontext info.\nversion info.\n", ddPrintVersionInformation);
+SHOW_COMMAND(ddShowAllModuleInfo_CMD, ddShowAllModuleInfo_Func, "show context module_all",
+             "show info.\ncontext info.\nall module info.\n", ddPrintAllModuleInformation);
+SHOW_COMMAND(ddShowSysSupportFuncInfo_CMD, ddShowSysSupportFuncInfo_Func,
+             "show context sys_support_func", "show info.\ncontext info.\nsys support func info.\n",
+             ddPrintSysSupportFuncInformation);
+SHOW_COMMAND(ddShowMainBoardInfo_CMD, ddShowMainBoardInfo_Func, "show context main_board",
+             "show info.\ncontext info.\nmain board info.\n",
+             ddPrintAllSupportedMainBoardInformation);
+SHOW_COMMAND(ddShowOltPortInfo_CMD, ddShowOltPortInfo_Func, "show context olt_port",
+             "show info.\ncontext info.\nolt port info.\n", ddPrintAllSupportedOltPortInfomation);
+SHOW_COMMAND(ddShowAllBoardInfo_CMD, ddShowAllBoardInfo_Func, "show context board_all",
+             "show info.\ncontext info.\nall board info.\n", ddPrintAllSupportedBoardInfomation);
 
 namespace sys_context {
 namespace {
@@ -50,9 +41,8 @@ namespace {
 constexpr int32_t kDiagnosticNode = 10;
 
 constexpr CommandRecord* kRecords[] = {
-    &ddShowVersionInfo_CMD,
-    &ddShowAllModuleInfo_CMD,
-    &ddShowSysSupportFuncInfo_CMD,
+    &ddShowVersionInfo_CMD,   &ddShowAllModuleInfo_CMD, &ddShowSysSupportFuncInfo_CMD,
+    &ddShowMainBoardInfo_CMD, &ddShowOltPortInfo_CMD,   &ddShowAllBoardInfo_CMD,
 };
 
 // Tells the module framework the library's name, and its build date as version.

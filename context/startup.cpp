@@ -6,6 +6,7 @@
 #include "common/memory.h"
 #include "common/messages.h"
 #include "sys_context/context.h"
+#include "sys_context/olt.h"
 
 constinit int32_t ddDebugPrint = 0;
 
@@ -32,6 +33,12 @@ constexpr Loader kLoaders[] = {
      "\r\nddParseContextFile->ddReadAllModuleInformation err! iResult = %d, strDeviceDefFilePath = %s"},
     {ddReadSysSupportFuncInformation,
      "\r\nddParseContextFile->ddReadSysSupportFuncInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedOltPortInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedOltPortInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedMainBoardInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedMainBoardInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedBoardInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedBoardInformation err! iResult = %d, strDeviceDefFilePath = %s"},
 };
 
 // Forgets what the tables hold; nothing is released.
@@ -39,6 +46,9 @@ void ClearTables() {
   gstVersionInformation = {};
   gstSysSupportFuncType = {};
   gstModuleTypeList = {};
+  gstSupportedOltPortType = {};
+  gstSupportedBoardType = {};
+  gstSupportedMainBoardType = {};
 }
 
 // Proves that the memory is there, by touching all of it. The call goes through a

@@ -18,6 +18,7 @@
 #include "host/root.h"
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
+#include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
 namespace sysctx {
@@ -53,9 +54,14 @@ std::string DescribeEquipment() {
 }
 
 std::string DescribeTables() {
-  return Format("loaded: %u versions, %u modules, %u system functions\n",
-                gstVersionInformation.ulSupportedSoftVerNum, gstModuleTypeList.ulModuleTypeNum,
-                gstSysSupportFuncType.ulSupportedSysFunctionTypeNum);
+  return Format(
+      "loaded: %u versions, %u modules, %u system functions\n"
+      "loaded: %u OLT port types, %u main boards, %u service boards\n",
+      gstVersionInformation.ulSupportedSoftVerNum, gstModuleTypeList.ulModuleTypeNum,
+      gstSysSupportFuncType.ulSupportedSysFunctionTypeNum,
+      gstSupportedOltPortType.ulSupportedOltPortTypeNum,
+      gstSupportedMainBoardType.ulSupportedBoardTypeNum,
+      gstSupportedBoardType.ulSupportedBoardTypeNum);
 }
 
 std::string DescribeModules() {

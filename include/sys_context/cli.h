@@ -9,6 +9,7 @@
 #ifndef SYS_CONTEXT_CLI_H
 #define SYS_CONTEXT_CLI_H
 
+#include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
 SYS_CONTEXT_BEGIN
@@ -27,6 +28,9 @@ SYS_CONTEXT_API int32_t ddCmdInit(int32_t, int32_t, int32_t);
 extern SYS_CONTEXT_API struct CommandRecord ddShowVersionInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowAllModuleInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowSysSupportFuncInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowMainBoardInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowOltPortInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowAllBoardInfo_CMD;
 
 /* Their handlers. The show commands take no arguments and return 0. */
 SYS_CONTEXT_API int32_t ddShowVersionInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
@@ -35,12 +39,19 @@ SYS_CONTEXT_API int32_t ddShowAllModuleInfo_Func(struct CommandRecord* self, voi
                                                  int32_t argc, char** argv);
 SYS_CONTEXT_API int32_t ddShowSysSupportFuncInfo_Func(struct CommandRecord* self, void* vty,
                                                       int32_t argc, char** argv);
+SYS_CONTEXT_API int32_t ddShowMainBoardInfo_Func(struct CommandRecord* self, void* vty,
+                                                 int32_t argc, char** argv);
+SYS_CONTEXT_API int32_t ddShowOltPortInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                               char** argv);
+SYS_CONTEXT_API int32_t ddShowAllBoardInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                                char** argv);
 
 /* ---- Printers ------------------------------------------------------------ */
 
-/* Each prints one table and returns 0, also for an empty table. A corrupt
- * table is reported on the terminal instead. The terminal is handed to vty_out
- * as it is, a null one too. */
+/* Each prints one table and returns 0, also for an empty table. A corrupt table is
+ * reported on the terminal instead, and so is the lack of a list where a code for
+ * it is given: an announced count of 0 leaves none. The terminal is handed to
+ * vty_out as it is, a null one too. */
 
 /* -30: more than 30 versions. */
 SYS_CONTEXT_API int32_t ddPrintVersionInformation(void* vty);
@@ -50,6 +61,22 @@ SYS_CONTEXT_API int32_t ddPrintAllModuleInformation(void* vty);
 
 /* -28: more than 200 functions. */
 SYS_CONTEXT_API int32_t ddPrintSysSupportFuncInformation(void* vty);
+
+/* With all maps. -19: more than 100 boards; -10: no list; -24: a board of more
+ * than 1280 logic ports, of more than 20 maps or of none, which ends the listing. */
+SYS_CONTEXT_API int32_t ddPrintAllSupportedMainBoardInformation(void* vty);
+
+/* Yields the processor for two ticks before every sixteenth row. -11: more than 30
+ * types, or no list. */
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOltPortInfomation(void* vty);
+
+/* A line for each service board, then each with its ports. -19: more than 100
+ * boards; -10: boards, but no list. */
+SYS_CONTEXT_API int32_t ddPrintAllSupportedBoardInfomation(void* vty);
+
+/* One service board with its ports. -2, and nothing printed, without one. */
+SYS_CONTEXT_API int32_t ddPrintOneSupportedBoardInfomation(const BoardInformation* board,
+                                                           void* vty);
 
 SYS_CONTEXT_END
 

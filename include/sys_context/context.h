@@ -2,8 +2,9 @@
  * Start-up, software versions, module types and system functions.
  *
  * The host calls ddInit once, before anybody asks a query; it reads
- * "/mnt/work/device_definition.ini" into the tables below. Tables stay for the
- * life of the process and belong to the library; hosts may read and fill them.
+ * "/mnt/work/device_definition.ini" into the tables below and into those of olt.h.
+ * Tables stay for the life of the process and belong to the library; hosts may
+ * read and fill them.
  */
 #ifndef SYS_CONTEXT_CONTEXT_H
 #define SYS_CONTEXT_CONTEXT_H

@@ -2,8 +2,9 @@
  * What the host provides: the functions and the variable that libsys_context
  * uses on the control card. A program that links the library defines all of
  * them, with C linkage; the library of today calls only the shell, the module
- * framework and the task delay. The library also calls the C library by name (fopen,
- * malloc, printf, ...), and a host may put its own in front of those.
+ * framework and the task delay, and asks which cards are PON cards. The library also
+ * calls the C library by name (fopen, malloc, printf, ...), and a host may put its
+ * own in front of those.
  *
  * Strings and buffers given to the host are valid during the call only, but
  * for command records and module names, which stay for ever.

@@ -16,9 +16,8 @@ class CommandInit : public test::LibraryTest {
   // All records into node 10, in the order of the command table.
   static void ExpectInstalled() {
     CommandRecord* const expected[] = {
-        &ddShowVersionInfo_CMD,
-        &ddShowAllModuleInfo_CMD,
-        &ddShowSysSupportFuncInfo_CMD,
+        &ddShowVersionInfo_CMD,   &ddShowAllModuleInfo_CMD, &ddShowSysSupportFuncInfo_CMD,
+        &ddShowMainBoardInfo_CMD, &ddShowOltPortInfo_CMD,   &ddShowAllBoardInfo_CMD,
     };
     const std::vector<FakePlatform::Installed>& installed = FakePlatform::Get().installed;
     ASSERT_EQ(installed.size(), std::size(expected));
@@ -140,9 +139,12 @@ INSTANTIATE_TEST_SUITE_P(Cli, ModuleVersion, testing::ValuesIn(kAnswers),
 TEST_F(CommandInit, ReadsNoTableAndNoFile) {
   gstVersionInformation.ulSupportedSoftVerNum = 0xffffffff;
   gstModuleTypeList.ulModuleTypeNum = 0xffffffff;
+  gstSupportedOltPortType.ulSupportedOltPortTypeNum = 0xffffffff;
+  gstSupportedMainBoardType.ulSupportedBoardTypeNum = 0xffffffff;
+  gstSupportedBoardType.ulSupportedBoardTypeNum = 0xffffffff;
   EXPECT_EQ(ddCmdInit(0, 0, 0), 0);
   EXPECT_EQ(FakePlatform::Get().terminal, "");
-  gstModuleTypeList.ulModuleTypeNum = 0;
+  EXPECT_EQ(console_.Text(), "");
 }
 
 }  // namespace

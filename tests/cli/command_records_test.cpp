@@ -19,7 +19,7 @@ struct RecordRow {
   Handler handler;
   const char* help;
   void (*corrupt)();            // spoils the table that the command shows
-  const char* empty_listing;    // what it shows of an empty table
+  const char* empty_listing;    // what it shows of the table before any load
   const char* corrupt_listing;  // and of the spoilt one
   friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
     return out << row.name;
@@ -81,7 +81,7 @@ TEST_P(CommandRecords, HaveOneHelpLinePerWord) {
   EXPECT_EQ(help.back(), '\n');
 }
 
-TEST_P(CommandRecords, ShowAnEmptyTable) {
+TEST_P(CommandRecords, ShowATableThatIsNotLoaded) {
   ExpectShown(GetParam().empty_listing);
   EXPECT_EQ(console_.Text(), "");
 }
@@ -129,6 +129,34 @@ const RecordRow kRecords[] = {
      .corrupt_listing =
          "\r\ndebug_ddPrintSysSupportFuncInformation err! ulSysSupportFuncNum = 201, "
          "MAX_SUPPORTED_MODULE_TYPE_NUM = 200"},
+    {.name = "ddShowMainBoardInfo_CMD",
+     .record = &ddShowMainBoardInfo_CMD,
+     .command = "show context main_board",
+     .handler = ddShowMainBoardInfo_Func,
+     .help = "show info.\ncontext info.\nmain board info.\n",
+     .corrupt = [] { gstSupportedMainBoardType.ulSupportedBoardTypeNum = 101; },
+     .empty_listing = "\r\nddPrintAllSupportedMainBoardInformation err!, pBoardTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedMainBoardInformation err!, ulSupportedBoardTypeNum = 101, "
+         "MAX_OLT_BOARD_TYPE_NUM = 100"},
+    {.name = "ddShowOltPortInfo_CMD",
+     .record = &ddShowOltPortInfo_CMD,
+     .command = "show context olt_port",
+     .handler = ddShowOltPortInfo_Func,
+     .help = "show info.\ncontext info.\nolt port info.\n",
+     .corrupt = [] { gstSupportedOltPortType.ulSupportedOltPortTypeNum = 31; },
+     .empty_listing = "\r\nddPrintAllSupportedOltPortInfomation err! pOltPortTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedOltPortInfomation err! ulSupportedOltPortTypeNum = 31"},
+    {.name = "ddShowAllBoardInfo_CMD",
+     .record = &ddShowAllBoardInfo_CMD,
+     .command = "show context board_all",
+     .handler = ddShowAllBoardInfo_Func,
+     .help = "show info.\ncontext info.\nall board info.\n",
+     .corrupt = [] { gstSupportedBoardType.ulSupportedBoardTypeNum = 1; },
+     .empty_listing = "\r\n\r\nAllSupportedBoard:"
+                      "\r\ngstSupportedBoardType.ulSupportedBoardTypeNum = 0\r\n\r\n",
+     .corrupt_listing = "\r\nddPrintAllSupportedBoardInfomation err! pBoardTypeArray = 0x0"},
 };
 INSTANTIATE_TEST_SUITE_P(Cli, CommandRecords, testing::ValuesIn(kRecords),
                          testing::PrintToStringParamName());

@@ -32,6 +32,7 @@ TEST_F(Printers, AsManyVersionsAsPossible) {
   }
   const Printed printed = Print(ddPrintVersionInformation);
   EXPECT_EQ(printed.code, 0);
+  ExpectNoPause(printed);
   EXPECT_TRUE(printed.text.starts_with(
       "\r\nVersion:\r\nSupportedSoftwareVer:\r\ngstVersionInformation.ulSupportedSoftVerNum = 30"
       "\r\n 0. ulSupportedSoftVerLen = 100, acSupportedSoftVer = vvvvv"))
@@ -83,6 +84,7 @@ TEST_F(Printers, AsManyModulesAsPossible) {
   }
   const Printed printed = Print(ddPrintAllModuleInformation);
   EXPECT_EQ(printed.code, 0);
+  ExpectNoPause(printed);
   EXPECT_TRUE(printed.text.ends_with("\r\n199. ModuleType = 199, ulNameLen = 60, acName = " +
                                      string(59, 'n') + ", ulSize = 199\r\n\r\n"))
       << printed.text;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstring>
+#include <functional>
 #include <string>
 
 #include "support/tables.h"
@@ -36,20 +37,32 @@ class PrinterTest : public LibraryTest {
     table.aulSupportedSysFunctionType[table.ulSupportedSysFunctionTypeNum++] = type;
   }
 
-  // What a printer writes on the terminal it is given, and nowhere else.
+  // What a printer writes on the terminal it is given, and nowhere else. Where
+  // it pauses for 2 ticks, there is a "<pause 2>" in the text.
   struct Printed {
     int32_t code;
     std::string text;
   };
-  Printed Print(int32_t (*printer)(void* vty)) {
+  static Printed Print(const std::function<int32_t(void* vty)>& printer) {
     FakePlatform::Reset();
     int terminal = 0;
     const int32_t code = printer(&terminal);
     for (const void* const used : FakePlatform::Get().terminals_used) {
       EXPECT_EQ(used, &terminal);
     }
-    EXPECT_TRUE(FakePlatform::Get().delays.empty());  // these listings do not pause
-    return {code, FakePlatform::Get().terminal};
+    return {code, TerminalWithPauses()};
+  }
+  static std::string TerminalWithPauses() {
+    const FakePlatform& platform = FakePlatform::Get();
+    std::string text = platform.terminal;
+    for (size_t i = platform.delays.size(); i > 0; --i) {
+      text.insert(platform.shown_before_delays[i - 1],
+                  "<pause " + std::to_string(platform.delays[i - 1]) + ">");
+    }
+    return text;
+  }
+  static void ExpectNoPause(const Printed& printed) {
+    EXPECT_EQ(printed.text.find("<pause"), std::string::npos) << printed.text;
   }
 
   ModuleInformation records_[MAX_SUPPORTED_MODULE_TYPE_NUM] = {};

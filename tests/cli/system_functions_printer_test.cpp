@@ -74,6 +74,7 @@ TEST_F(Printers, AsManyFunctionsAsPossible) {
   }
   const Printed printed = Print(ddPrintSysSupportFuncInformation);
   EXPECT_EQ(printed.code, 0);
+  ExpectNoPause(printed);
   EXPECT_TRUE(printed.text.ends_with("\r\n199. ulModuleType =  7, aucModuleName = QOS   \r\n\r\n"))
       << printed.text;
 }

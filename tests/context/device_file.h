@@ -1,28 +1,60 @@
-// A definition file in the place where start-up looks for it.
+// A definition file in the place where start-up looks for it, and what a start
+// makes of it.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <string_view>
 
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "sys_context/context.h"
+#include "sys_context/olt.h"
 
 namespace test {
 
 constexpr char kDeviceFile[] = "/mnt/work/device_definition.ini";
 
-// A small, complete definition file: two of everything.
-constexpr std::string_view kCompleteFile =
-    "[Version]\nSupportedSoftwareVer=KT2200V4.0|KT2200V4.1\n"
+// A small, complete definition file: a section for each loader, in their order.
+constexpr std::string_view kVersionPart = "[Version]\nSupportedSoftwareVer=KT2200V4.0|KT2200V4.1\n";
+constexpr std::string_view kModulePart =
     "[ModuleTypeList]\nModuleNum=2\nModule1=S1\nModule2=S2\n"
     "[S1]\nType=1\nName=OMCI\nSize=64\n"
-    "[S2]\nType=3\nName=VLAN\nSize=32\n"
+    "[S2]\nType=3\nName=VLAN\nSize=32\n";
+constexpr std::string_view kFunctionPart =
     "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=2\n"
     "SupportedSysFunction1=VLAN\nSupportedSysFunction2=OMCI\n";
+constexpr std::string_view kPortTypePart =
+    "[SupportedOltPortType]\nSupportedOltPortTypeNum=2\n"
+    "SupportedOltPortType1=P1\nSupportedOltPortType2=P2\n"
+    "[P1]\nType=2\nName=GPON\nSplittingRatio=128\n"
+    "[P2]\nType=31\nName=GE\nSplittingRatio=0\n";
+constexpr std::string_view kMainBoardPart =
+    "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=1\nSupportedMainBoardType1=M1\n"
+    "[M1]\nType=101\nName=MCXA\nSwitchChipLogicPortNum=1\nSwitchChipLogicPort1=5\n"
+    "SpecialChipLogicPortMapPhyPortCardNum=1\nSpecialChipLogicPortMapPhyPortCard1=UP4X\n"
+    "UP4X_SwitchChipLogicPort1=7\n";
+constexpr std::string_view kBoardPart =
+    "[SupportedBoardType]\nSupportedBoardTypeNum=2\n"
+    "SupportedBoardType1=B1\nSupportedBoardType2=B2\n"
+    "[B1]\nType=3102\nName=GP01A\nPortNum=1\nNameKeyPort1=GPON\nSpecialPortNum=0\n"
+    "[B2]\nType=3201\nName=ET01G\nPortNum=1\nNameKeyPort1=GE\nSpecialPortNum=0\n";
+
+// The parts of the first `loaders` loaders.
+inline std::string FileFor(size_t loaders) {
+  std::string file;
+  for (const std::string_view part :
+       {kVersionPart, kModulePart, kFunctionPart, kPortTypePart, kMainBoardPart, kBoardPart}) {
+    file += loaders > 0 ? part : "";
+    loaders -= loaders > 0 ? 1 : 0;
+  }
+  return file;
+}
+constexpr size_t kLoaders = 6;
 
 // Watches the library while the given bytes are its definition file.
 struct DeviceFile {
-  explicit DeviceFile(std::string_view bytes = kCompleteFile) : file(bytes) {
+  explicit DeviceFile(std::string_view bytes = FileFor(kLoaders)) : file(bytes) {
     faults.paths[kDeviceFile] = file.path();
   }
   // The library finds no definition file at all.
@@ -31,5 +63,45 @@ struct DeviceFile {
   DefinitionFile file;
   Faults faults;
 };
+
+// How many records each table holds.
+struct Counts {
+  uint32_t versions = 0;
+  uint32_t modules = 0;
+  uint32_t functions = 0;
+  uint32_t port_types = 0;
+  uint32_t main_boards = 0;
+  uint32_t boards = 0;
+
+  static Counts OfTheTables() {
+    return {gstVersionInformation.ulSupportedSoftVerNum,
+            gstModuleTypeList.ulModuleTypeNum,
+            gstSysSupportFuncType.ulSupportedSysFunctionTypeNum,
+            gstSupportedOltPortType.ulSupportedOltPortTypeNum,
+            gstSupportedMainBoardType.ulSupportedBoardTypeNum,
+            gstSupportedBoardType.ulSupportedBoardTypeNum};
+  }
+  bool operator==(const Counts&) const = default;
+  friend std::ostream& operator<<(std::ostream& out, const Counts& counts) {
+    return out << counts.versions << " versions, " << counts.modules << " modules, "
+               << counts.functions << " functions, " << counts.port_types << " port types, "
+               << counts.main_boards << " main boards, " << counts.boards << " boards";
+  }
+};
+
+// What a start that meets a fault comes to.
+struct Outcome {
+  int32_t code = 0;
+  Counts loaded = {};
+  size_t lost = 0;  // blocks that no table leads to any more
+};
+
+// What the driver and its callers say of a loader that failed with `code`.
+inline std::string DriverSays(const std::string& loader, const std::string& code) {
+  return "\r\nddParseContextFile->" + loader + " err! iResult = " + code +
+         ", strDeviceDefFilePath = /mnt/work/device_definition.ini"
+         "\r\nddReadContextFile->ddParseContextFile err! iResult = " +
+         code + "ddInit initialize......failed!\r\n";
+}
 
 }  // namespace test

@@ -2,9 +2,9 @@
 // and for ever.
 #include <string>
 
-#include "context/leaks.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/leaks.h"
 #include "support/tables.h"
 
 namespace {

@@ -2,30 +2,35 @@
 #include <string>
 
 #include "context/device_file.h"
-#include "context/leaks.h"
+#include "support/leaks.h"
 #include "support/tables.h"
 
 namespace {
 
 using std::string;
+using test::Counts;
 using test::DeviceFile;
+using test::DriverSays;
 using test::FaultPlan;
+using test::Outcome;
 
 constexpr char kNoBuffer[] =
     "\r\nddReadContextFile err! Not enough memory for pFileBuf buffer.\r\n";
 
 class StartupMemory : public test::LibraryTest {
  protected:
+  // Starts while `calls` allocations from number `failing` on fail.
+  static void ExpectStart(int failing, int calls, const Outcome& outcome) {
+    DeviceFile device;
+    device.faults.allocations.FailFrom(failing, calls);
+    EXPECT_EQ(ddInit(), outcome.code);
+    EXPECT_EQ(Counts::OfTheTables(), outcome.loaded);
+    test::ExpectNoLeak(device.faults);
+    test::ResetTables();
+  }
+
   test::Console console_;
 };
-
-TEST_F(StartupMemory, AStartAllocatesTheWorkBufferTheListAndItsRecords) {
-  DeviceFile device;
-  EXPECT_EQ(ddInit(), 0);
-  EXPECT_EQ(device.faults.allocations.count(), 4);
-  EXPECT_EQ(device.faults.frees, 1);
-  test::ExpectNoLeak(device.faults);
-}
 
 TEST_F(StartupMemory, NoMemoryForTheWorkBuffer) {
   for (const int32_t debug : {0, 1}) {
@@ -45,49 +50,130 @@ TEST_F(StartupMemory, NoMemoryForTheWorkBufferLeavesEmptyTables) {
   gstVersionInformation.ulSupportedSoftVerNum = 9;
   gstModuleTypeList.ulModuleTypeNum = 9;
   gstSysSupportFuncType.ulSupportedSysFunctionTypeNum = 9;
+  gstSupportedOltPortType.ulSupportedOltPortTypeNum = 9;
+  gstSupportedMainBoardType.ulSupportedBoardTypeNum = 9;
+  gstSupportedBoardType.ulSupportedBoardTypeNum = 9;
   DeviceFile device;
   device.faults.allocations.FailFrom(1, 1);
   EXPECT_EQ(ddInit(), -1);
   EXPECT_EQ(console_.Text(), string(kNoBuffer) + "ddInit initialize......failed!\r\n");
   EXPECT_EQ(device.faults.opens.count(), 0);
-  EXPECT_EQ(gstVersionInformation.ulSupportedSoftVerNum, 0u);
-  EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, 0u);
-  EXPECT_EQ(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum, 0u);
+  EXPECT_EQ(Counts::OfTheTables(), Counts{});
 }
 
-TEST_F(StartupMemory, NoMemoryForTheModuleList) {
-  for (const int calls : {1, FaultPlan::kForEver}) {
-    DeviceFile device;
-    device.faults.allocations.FailFrom(2, calls);
-    EXPECT_EQ(ddInit(), -27);
-    EXPECT_EQ(console_.Text(),
-              "\r\nddReadAllModuleInformation->malloc err! pModuleTypeArray = 0x0"
-              "\r\nddParseContextFile->ddReadAllModuleInformation err! iResult = -27, "
-              "strDeviceDefFilePath = /mnt/work/device_definition.ini"
-              "\r\nddReadContextFile->ddParseContextFile err! iResult = -27"
-              "ddInit initialize......failed!\r\n");
-    EXPECT_EQ(gstVersionInformation.ulSupportedSoftVerNum, 2u);
-    EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, 0u);
-    EXPECT_EQ(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum, 0u);
-    EXPECT_TRUE(device.faults.blocks.empty());
+// ---- Every allocation ------------------------------------------------------------
+
+constexpr char kBoardFailed[] =
+    "\r\nddReadAllSupportedBoardInformation->ddReadOneSupportedBoardInformation err! iResult = ";
+
+string NoModule(const string& number) {
+  return "\r\nddReadOneModuleInformation->malloc err! pstModuleInformation = 0x0"
+         "\r\nddReadAllModuleInformation->ddReadOneModuleInformation err! iResult = -27, "
+         "section = S" +
+         number;
+}
+// The board whose port is of that type is left out with it.
+string NoPortType(const string& number) {
+  return "\r\nddReadOneSupportedOltPortInformation->malloc err! pstOltPortInformation = 0x0"
+         "\r\nddReadAllSupportedOltPortInformation->ddReadOneSupportedOltPortInformation err! "
+         "iResult = -27, strValueBuf = P" +
+         number +
+         "\r\nddAddSupportedServePortToBoardObj->dd_IsOltPonTypeSupportedBySecName err! "
+         "iResult = -32, strKey = NameKeyPort1, ulIndex = 0"
+         "\r\nddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err! "
+         "strBoardTypeSection = B" +
+         number + kBoardFailed + "-1, section = B" + number;
+}
+string NoBoard(const string& number) {
+  return string("\r\nddReadOneSupportedBoardInformation->malloc err! pstBoardInformation = 0x0") +
+         kBoardFailed + "-27, section = B" + number;
+}
+string NoPorts(const string& number) {
+  return "\r\nddAddSupportedServePortToBoardObj err! pstBoardInformation->pPortArray = 0x0"
+         "\r\nddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err! "
+         "strBoardTypeSection = B" +
+         number + kBoardFailed + "-27, section = B" + number;
+}
+string NoPort(const string& number) {
+  return "\r\nddCreateOneOltPortObjByName->malloc err! pstOltPortInformationOut = 0x0, ulIndex = " +
+         string(number == "1" ? "0" : "1") +
+         "\r\nddAddSupportedServePortToBoardObj->dd_CreateOneOnuPonObjBySecName err! "
+         "strKey = NameKeyPort1"
+         "\r\nddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err! "
+         "strBoardTypeSection = B" +
+         number + kBoardFailed + "-1, section = B" + number;
+}
+
+// In the order in which they are made.
+struct AllocationRow {
+  const char* name;
+  string console;    // what is said if it alone fails
+  Outcome once;      // if it alone fails
+  Outcome for_ever;  // if all behind it fail as well
+};
+
+const AllocationRow kAllocations[] = {
+    {"WorkBuffer", string(kNoBuffer) + "ddInit initialize......failed!\r\n", {-1, {}}, {-1, {}}},
+    {"ModuleList",
+     "\r\nddReadAllModuleInformation->malloc err! pModuleTypeArray = 0x0" +
+         DriverSays("ddReadAllModuleInformation", "-27"),
+     {-27, {2}},
+     {-27, {2}}},
+    {"FirstModule", NoModule("1"), {0, {2, 1, 1, 2, 1, 2}}, {-27, {2}}},
+    {"SecondModule", NoModule("2"), {0, {2, 1, 1, 2, 1, 2}}, {-27, {2, 1, 1}}},
+    {"PortTypeList",
+     "\r\nddReadAllSupportedOltPortInformation->malloc err! pOltPortTypeArray = 0x0" +
+         DriverSays("ddReadAllSupportedOltPortInformation", "-27"),
+     {-27, {2, 2, 2}},
+     {-27, {2, 2, 2}}},
+    {"FirstPortType", NoPortType("1"), {0, {2, 2, 2, 1, 1, 1}}, {-27, {2, 2, 2}}},
+    {"SecondPortType", NoPortType("2"), {0, {2, 2, 2, 1, 1, 1}}, {-27, {2, 2, 2, 1}}},
+    {"MainBoardList",
+     "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0" +
+         DriverSays("ddReadAllSupportedMainBoardInformation", "-27"),
+     {-27, {2, 2, 2, 2}},
+     {-27, {2, 2, 2, 2}}},
+    {"MainBoard",
+     string("\r\nddReadOneSupportedMainBoardInformation->malloc err! "
+            "pstMainBoardInformation = 0x0") +
+         kBoardFailed + "-27, section = M1",
+     {0, {2, 2, 2, 2, 0, 2}},
+     {-27, {2, 2, 2, 2}}},
+    {"BoardList",
+     "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0" +
+         DriverSays("ddReadAllSupportedBoardInformation", "-27"),
+     {-27, {2, 2, 2, 2, 1}},
+     {-27, {2, 2, 2, 2, 1}}},
+    {"FirstBoard", NoBoard("1"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
+    {"FirstBoardsPorts", NoPorts("1"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
+    {"FirstBoardsPort", NoPort("1"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
+    {"SecondBoard", NoBoard("2"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
+    {"SecondBoardsPorts", NoPorts("2"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
+    {"SecondBoardsPort", NoPort("2"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
+};
+
+TEST_F(StartupMemory, AStartMakesTheseAllocations) {
+  DeviceFile device;
+  EXPECT_EQ(ddInit(), 0);
+  EXPECT_EQ(device.faults.allocations.count(), static_cast<int>(std::size(kAllocations)));
+  EXPECT_EQ(device.faults.frees, 1);  // the work buffer
+  test::ExpectNoLeak(device.faults);
+}
+
+TEST_F(StartupMemory, OneAllocationFails) {
+  int failing = 0;
+  for (const AllocationRow& row : kAllocations) {
+    SCOPED_TRACE(row.name);
+    ExpectStart(++failing, 1, row.once);
+    EXPECT_EQ(console_.Text(), row.console);
   }
 }
 
-TEST_F(StartupMemory, NoMemoryForModuleRecords) {
-  for (const int calls : {1, FaultPlan::kForEver}) {
-    for (int failing = 1; failing <= 2; ++failing) {
-      DeviceFile device;
-      device.faults.allocations.FailFrom(failing + 2, calls);
-      EXPECT_EQ(ddInit(), 0);
-      const uint32_t kept = calls == 1 ? 1u : static_cast<uint32_t>(failing - 1);
-      EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, kept);
-      EXPECT_EQ(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum, kept);
-      test::ExpectNoLeak(device.faults);
-      if (HasFailure()) {
-        return;
-      }
-      test::ResetTables();
-    }
+TEST_F(StartupMemory, NoAllocationSucceedsFromOneOn) {
+  int failing = 0;
+  for (const AllocationRow& row : kAllocations) {
+    SCOPED_TRACE(row.name);
+    ExpectStart(++failing, FaultPlan::kForEver, row.for_ever);
   }
 }
 

@@ -1,19 +1,23 @@
 // Start-up: what is loaded in which order, what a failing step leaves, and
 // what is said about it.
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "context/device_file.h"
+#include "support/leaks.h"
 #include "support/tables.h"
 
 namespace {
 
 using std::string;
 using test::DeviceFile;
+
+// What the tables of the complete file lead to: four arrays, two modules, two port
+// types, a main board, and two boards, each with an array and a port.
+constexpr size_t kBlocks = 4 + 2 + 2 + 1 + 2 * 3;
 
 class Startup : public test::LibraryTest {
  protected:
@@ -32,17 +36,74 @@ class Startup : public test::LibraryTest {
     EXPECT_EQ(gstSysSupportFuncType.aulSupportedSysFunctionType[0], 3u);
     EXPECT_EQ(gstSysSupportFuncType.aulSupportedSysFunctionType[1], 1u);
   }
-  // Every byte of a table.
+  static void ExpectPortTypes() {
+    ASSERT_EQ(gstSupportedOltPortType.ulSupportedOltPortTypeNum, 2u);
+    EXPECT_STREQ(gstSupportedOltPortType.pOltPortTypeArray[0]->acName, "GPON");
+    EXPECT_STREQ(gstSupportedOltPortType.pOltPortTypeArray[1]->acName, "GE");
+  }
+  static void ExpectMainBoards() {
+    ASSERT_EQ(gstSupportedMainBoardType.ulSupportedBoardTypeNum, 1u);
+    const MainBoardInformation& board = *gstSupportedMainBoardType.pBoardTypeArray[0];
+    EXPECT_STREQ(board.acName, "MCXA");
+    ASSERT_EQ(board.ulChipLogicPortToPhyPortTypeNum, 2u);
+    EXPECT_EQ(board.astPortMap[0].astPortPair[0].usPhyPort, 5);
+    EXPECT_EQ(board.astPortMap[1].astPortPair[0].usPhyPort, 7);
+  }
+  static void ExpectBoards() {
+    ASSERT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, 2u);
+    BoardInformation** const boards = gstSupportedBoardType.pBoardTypeArray;
+    EXPECT_STREQ(boards[0]->acName, "GP01A");
+    EXPECT_STREQ(boards[1]->acName, "ET01G");
+    ASSERT_EQ(boards[0]->ulTotalServePortNum, 1u);
+    EXPECT_STREQ(boards[0]->pPortArray[0]->acName, "GPON");
+  }
+  static void ExpectEverything() {
+    ExpectVersions();
+    ExpectModules();
+    ExpectFunctions();
+    ExpectPortTypes();
+    ExpectMainBoards();
+    ExpectBoards();
+  }
+  // Every byte of a table, or every field.
   template <typename Table>
   static bool IsZero(const Table& table) {
     const char* const bytes = reinterpret_cast<const char*>(&table);
     return std::all_of(bytes, bytes + sizeof table, [](char byte) { return byte == 0; });
   }
+  static bool IsZero(const ModuleTypeList& table) {
+    return table.ulModuleTypeNum == 0 && table.pModuleTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedOltPortType& table) {
+    return table.ulSupportedOltPortTypeNum == 0 && table.pOltPortTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedMainBoardType& table) {
+    return table.ulSupportedBoardTypeNum == 0 && table.pBoardTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedBoardType& table) {
+    return table.ulSupportedBoardTypeNum == 0 && table.pBoardTypeArray == nullptr &&
+           table.ulSupportedBoardMaxPonType == 0 && table.ulSupportedBoardMaxPonNum == 0;
+  }
+  static void ExpectAllZero() {
+    EXPECT_TRUE(IsZero(gstVersionInformation));
+    EXPECT_TRUE(IsZero(gstModuleTypeList));
+    EXPECT_TRUE(IsZero(gstSysSupportFuncType));
+    EXPECT_TRUE(IsZero(gstSupportedOltPortType));
+    EXPECT_TRUE(IsZero(gstSupportedMainBoardType));
+    EXPECT_TRUE(IsZero(gstSupportedBoardType));
+  }
   // Leaves over from an earlier life.
   static void FillWithOldData() {
     std::memset(&gstVersionInformation, 0x5a, sizeof gstVersionInformation);
     std::memset(&gstSysSupportFuncType, 0x5a, sizeof gstSysSupportFuncType);
-    gstModuleTypeList = {9, reinterpret_cast<ModuleInformation**>(uintptr_t{0x1230})};
+    gstModuleTypeList = {9, SomeAddress<ModuleInformation*>()};
+    gstSupportedOltPortType = {9, SomeAddress<OltPortInformation*>()};
+    gstSupportedMainBoardType = {9, SomeAddress<MainBoardInformation*>()};
+    gstSupportedBoardType = {9, SomeAddress<BoardInformation*>(), 8, 7};
+  }
+  template <typename Record>
+  static Record* SomeAddress() {
+    return reinterpret_cast<Record*>(uintptr_t{0x1230});
   }
   test::Console console_;
 };
@@ -53,13 +114,11 @@ TEST_F(Startup, LoadsEveryTable) {
     ddDebugPrint = debug;
     DeviceFile device;
     EXPECT_EQ(ddInit(), 0);
-    ExpectVersions();
-    ExpectModules();
-    ExpectFunctions();
+    ExpectEverything();
     EXPECT_EQ(console_.Text(), "");
-    EXPECT_EQ(device.faults.opens.count(), 1 + 1 + 2 * 4 + 1 + 2);
     EXPECT_EQ(device.faults.closes, device.faults.opens.count());
-    EXPECT_EQ(device.faults.blocks.size(), 3u);  // the list and its two records
+    EXPECT_EQ(device.faults.blocks.size(), kBlocks);
+    test::ExpectNoLeak(device.faults);
     EXPECT_EQ(ddDebugPrint, debug);
   }
 }
@@ -97,9 +156,7 @@ TEST_F(Startup, MissingFileIsReportedFromTheLookupUp) {
               "\r\nddReadContextFile->ddParseContextFile err! iResult = -31"
               "ddInit initialize......failed!\r\n");
     EXPECT_EQ(device.faults.opens.count(), 1);
-    EXPECT_TRUE(IsZero(gstVersionInformation));
-    EXPECT_TRUE(IsZero(gstModuleTypeList));
-    EXPECT_TRUE(IsZero(gstSysSupportFuncType));
+    ExpectAllZero();
     EXPECT_TRUE(device.faults.blocks.empty());
   }
 }
@@ -108,14 +165,21 @@ TEST_F(Startup, ClearsTheWholeTablesBeforeTheLoad) {
   FillWithOldData();
   DeviceFile device(
       "[Version]\nSupportedSoftwareVer=V\n[ModuleTypeList]\nModuleNum=0\n"
-      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=0\n");
+      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=0\n"
+      "[SupportedOltPortType]\nSupportedOltPortTypeNum=0\n"
+      "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=0\n"
+      "[SupportedBoardType]\nSupportedBoardTypeNum=0\n");
   EXPECT_EQ(ddInit(), 0);
+  EXPECT_EQ(console_.Text(),
+            "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 0"
+            "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = 0"
+            "\r\nddReadAllSupportedBoardInformation ok! ulSupportedOnuTypeNum = 0");
   VersionInformation versions = {};
   versions.ulSupportedSoftVerNum = 1;
   versions.astSupportedSoftVer[0] = {2, "V"};
   EXPECT_EQ(std::memcmp(&gstVersionInformation, &versions, sizeof versions), 0);
-  EXPECT_TRUE(IsZero(gstModuleTypeList));
-  EXPECT_TRUE(IsZero(gstSysSupportFuncType));
+  gstVersionInformation = {};
+  ExpectAllZero();
 }
 
 TEST_F(Startup, SecondCallForgetsTheFirstTablesAndFreesNothing) {
@@ -125,42 +189,28 @@ TEST_F(Startup, SecondCallForgetsTheFirstTablesAndFreesNothing) {
   const ModuleTypeList first = gstModuleTypeList;
 
   EXPECT_EQ(ddInit(), 0);
-
   EXPECT_EQ(device.faults.frees, 2);
-  EXPECT_EQ(device.faults.blocks.size(), 6u);
-  ExpectVersions();
-  ExpectModules();
-  ExpectFunctions();
+  EXPECT_EQ(device.faults.blocks.size(), 2 * kBlocks);
+  ExpectEverything();
   EXPECT_NE(gstModuleTypeList.pModuleTypeArray, first.pModuleTypeArray);
   ASSERT_EQ(device.faults.blocks.count(first.pModuleTypeArray), 1u);
   EXPECT_STREQ(first.pModuleTypeArray[1]->acName, "VLAN");
+  test::ExpectAndReleaseLost(device.faults, kBlocks);
 
   device.Remove();
-  const ModuleTypeList second = gstModuleTypeList;
   EXPECT_EQ(ddInit(), -31);
-  EXPECT_EQ(device.faults.frees, 3);
-  EXPECT_EQ(device.faults.blocks.size(), 6u);
-  EXPECT_TRUE(IsZero(gstModuleTypeList));
-
-  for (const ModuleTypeList& list : {first, second}) {
-    std::free(list.pModuleTypeArray[0]);
-    std::free(list.pModuleTypeArray[1]);
-    std::free(list.pModuleTypeArray);
-  }
+  ExpectAllZero();
+  EXPECT_EQ(device.faults.blocks.size(), kBlocks);
+  test::ExpectAndReleaseLost(device.faults, kBlocks);
 }
 
 // ---- Failing steps -------------------------------------------------------------
-
-constexpr char kVersions[] = "[Version]\nSupportedSoftwareVer=KT2200V4.0|KT2200V4.1\n";
-constexpr char kModules[] =
-    "[ModuleTypeList]\nModuleNum=2\nModule1=S1\nModule2=S2\n"
-    "[S1]\nType=1\nName=OMCI\nSize=64\n[S2]\nType=3\nName=VLAN\nSize=32\n";
 
 struct FailRow {
   const char* name;
   string file;
   int32_t code;
-  int steps_done;  // of: versions, modules, functions
+  size_t steps_done;  // of: versions, modules, functions, port types, main boards, boards
   string loader_console;
   string debug_console;  // what the loader says under the debug switch only
   string loader;
@@ -169,18 +219,20 @@ struct FailRow {
 
 class FailingStep : public Startup, public testing::WithParamInterface<FailRow> {
  protected:
+  // The tables of the steps before the failure are there, the others are empty.
   static void ExpectStepsDone() {
-    if (GetParam().steps_done >= 1) {
-      ExpectVersions();
-    } else {
-      EXPECT_TRUE(IsZero(gstVersionInformation));
+    void (*const expect_table[])() = {ExpectVersions,  ExpectModules,    ExpectFunctions,
+                                      ExpectPortTypes, ExpectMainBoards, ExpectBoards};
+    const bool is_zero[] = {IsZero(gstVersionInformation),     IsZero(gstModuleTypeList),
+                            IsZero(gstSysSupportFuncType),     IsZero(gstSupportedOltPortType),
+                            IsZero(gstSupportedMainBoardType), IsZero(gstSupportedBoardType)};
+    for (size_t step = 0; step < std::size(is_zero); ++step) {
+      SCOPED_TRACE(step);
+      EXPECT_EQ(is_zero[step], step >= GetParam().steps_done);
+      if (step < GetParam().steps_done) {
+        expect_table[step]();
+      }
     }
-    if (GetParam().steps_done >= 2) {
-      ExpectModules();
-    } else {
-      EXPECT_TRUE(IsZero(gstModuleTypeList));
-    }
-    EXPECT_TRUE(IsZero(gstSysSupportFuncType));
   }
   // What the loader and the parse driver say.
   static string Said() {
@@ -230,29 +282,59 @@ TEST_P(FailingStep, OfTheInitialisation) {
   }
 }
 
+// The first `steps` sections of the complete file, and one more.
+string FileWith(size_t steps, const char* more) {
+  return test::FileFor(steps) + more;
+}
+
 const FailRow kFails[] = {
-    {"VersionsNoSection", kModules, -31, 0,
+    {"VersionsNoSection", "[ModuleTypeList]\nModuleNum=0\n", -31, 0,
      "\r\nddReadVersionInformation err! iResult = -1, section = Version, key = Version", "",
      "ddReadVersionInformation"},
-    {"VersionsBroken", string("[Version\n") + kModules, -31, 0,
+    {"VersionsBroken", "[Version\n" + test::FileFor(6), -31, 0,
      "\r\nddReadVersionInformation err! iResult = -14, section = Version, key = Version", "",
      "ddReadVersionInformation"},
-    {"ModulesNoSection", kVersions, -31, 1,
+    {"ModulesNoSection", test::FileFor(1), -31, 1,
      "\r\nddReadAllModuleInformation err! iResult = -1, section = ModuleTypeList, key = ModuleNum",
      "", "ddReadAllModuleInformation"},
-    {"ModulesTooMany", string(kVersions) + "[ModuleTypeList]\nModuleNum=201\n", -28, 1,
+    {"ModulesTooMany", FileWith(1, "[ModuleTypeList]\nModuleNum=201\n"), -28, 1,
      "\r\nddReadAllModuleInformation err! ulModuleTypeNum = 201, MAX_SUPPORTED_MODULE_TYPE_NUM = "
      "200",
      "", "ddReadAllModuleInformation"},
-    {"FunctionsNoSection", string(kVersions) + kModules, -31, 2, "",
+    {"FunctionsNoSection", test::FileFor(2), -31, 2, "",
      "\r\nddReadSysSupportFuncInformation err! iResult = -1, section = SupportedSysFunctionType, "
      "key = SupportedSysFunctionTypeNum",
      "ddReadSysSupportFuncInformation"},
     {"FunctionsTooMany",
-     string(kVersions) + kModules + "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=-1\n",
-     -28, 2, "",
+     FileWith(2, "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=-1\n"), -28, 2, "",
      "\r\nddReadSysSupportFuncInformation err! iResult = 0, ulSupportedSysFunctionTypeNum = -1",
      "ddReadSysSupportFuncInformation"},
+    {"PortTypesNoSection", test::FileFor(3), -31, 3,
+     "\r\nddReadAllSupportedOltPortInformation err! iResult = -1, section = SupportedOltPortType, "
+     "key = SupportedOltPortTypeNum",
+     "", "ddReadAllSupportedOltPortInformation"},
+    {"PortTypesTooMany", FileWith(3, "[SupportedOltPortType]\nSupportedOltPortTypeNum=31\n"), -11,
+     3,
+     "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 31, "
+     "MAX_OLT_PORT_TYPE_NUM = 30",
+     "", "ddReadAllSupportedOltPortInformation"},
+    {"MainBoardsNoSection", test::FileFor(4), -31, 4,
+     "\r\nddReadAllSupportedBoardInformation err! iResult = -1, section = SupportedMainBoardType, "
+     "key = SupportedMainBoardTypeNum",
+     "", "ddReadAllSupportedMainBoardInformation"},
+    {"MainBoardsTooMany", FileWith(4, "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=101\n"),
+     -19, 4,
+     "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = 101, "
+     "MAX_OLT_BOARD_TYPE_NUM = 100",
+     "", "ddReadAllSupportedMainBoardInformation"},
+    {"BoardsNoSection", test::FileFor(5), -31, 5,
+     "\r\nddReadAllSupportedBoardInformation err! iResult = -1, section = SupportedBoardType, "
+     "key = SupportedBoardTypeNum",
+     "", "ddReadAllSupportedBoardInformation"},
+    {"BoardsTooMany", FileWith(5, "[SupportedBoardType]\nSupportedBoardTypeNum=101\n"), -19, 5,
+     "\r\nddReadAllSupportedBoardInformation err! ulSupportedOnuTypeNum = 101, "
+     "MAX_OLT_BOARD_TYPE_NUM = 100",
+     "", "ddReadAllSupportedBoardInformation"},
 };
 INSTANTIATE_TEST_SUITE_P(Startup, FailingStep, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());
@@ -274,9 +356,13 @@ TEST_F(Startup, HooksAndPlaceholdersDoNothing) {
   EXPECT_TRUE(IsZero(gstVersionInformation));
 }
 
-TEST_F(Startup, TouchesNoPlatformFunction) {
+TEST_F(Startup, AsksThePlatformNothingButWhichBoardsArePonCards) {
+  test::FakePlatform::Get().pon_cards = {3102};
   DeviceFile device;
   EXPECT_EQ(ddInit(), 0);
+  EXPECT_EQ(test::FakePlatform::Get().asked_pon_cards, (std::vector<int16_t>{3102, 3201}));
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, 3102u);
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 1u);
   EXPECT_TRUE(test::FakePlatform::Get().installed.empty());
   EXPECT_TRUE(test::FakePlatform::Get().registered_modules.empty());
   EXPECT_TRUE(test::FakePlatform::Get().delays.empty());

@@ -25,7 +25,42 @@ Size=64
 [SupportedSysFunctionType]
 SupportedSysFunctionTypeNum=1
 SupportedSysFunction1=OMCI
+[SupportedOltPortType]
+SupportedOltPortTypeNum=1
+SupportedOltPortType1=Port_GPON
+[Port_GPON]
+Type=2
+Name=GPON
+SplittingRatio=128
+[SupportedMainBoardType]
+SupportedMainBoardTypeNum=1
+SupportedMainBoardType1=Board_MCXA
+[Board_MCXA]
+Type=101
+Name=MCXA
+SwitchChipLogicPortNum=1
+SwitchChipLogicPort1=5
+SpecialChipLogicPortMapPhyPortCardNum=0
+[SupportedBoardType]
+SupportedBoardTypeNum=2
+SupportedBoardType1=Board_GP01A
+SupportedBoardType2=Board_PWDA
+[Board_GP01A]
+Type=3102
+Name=GP01A
+PortNum=1
+NameKeyPort1=GPON
+SpecialPortNum=0
+[Board_PWDA]
+Type=3401
+Name=PWDA
+PortNum=0
+SpecialPortNum=0
 """
+# What sysctx says of them.
+LOADED = (
+    "loaded: 2 versions, 1 modules, 1 system functions\n"
+    "loaded: 1 OLT port types, 1 main boards, 2 service boards\n")
 
 
 def sample(name):

@@ -103,7 +103,8 @@ class FailedStart(card.CardTest):
         report = done.stderr.decode()
         self.assertIn("\nddInit failed with -28: tables behind the failure are empty\n", report)
         self.assertIn("\nconsole: ddReadAllModuleInformation err! ulModuleTypeNum = 201,", report)
-        self.assertIn("loaded: 2 versions, 0 modules, 0 system functions\n", report)
+        self.assertIn("loaded: 2 versions, 0 modules, 0 system functions\n"
+                      "loaded: 0 OLT port types, 0 main boards, 0 service boards\n", report)
 
     def test_shell_says_so_and_works(self):
         self.break_modules()
@@ -112,6 +113,23 @@ class FailedStart(card.CardTest):
         self.assertIn(b"\nddInit failed with -28: tables behind the failure are empty\n"
                       b"the shell is usable all the same\n", done.stdout)
         self.assertIn(self.VERSIONS, done.stdout)
+
+    def test_tables_in_front_of_the_failure_are_shown(self):
+        self.define(card.DEFINITIONS.replace("MainBoardTypeNum=1", "MainBoardTypeNum=101"))
+        for command, text in (
+                ("olt_port", b"acName =                 GPON, ulSplittingRatio = 128\r\n"),
+                ("main_board", b"\r\nddPrintAllSupportedMainBoardInformation err!, "
+                               b"pBoardTypeArray = 0x0"),
+                ("board_all", b"\r\ngstSupportedBoardType.ulSupportedBoardTypeNum = 0\r\n")):
+            with self.subTest(command=command):
+                done = card.run("--root", self.root, "run", f"show context {command}")
+                self.assertEqual(done.returncode, 0)
+                self.assertIn(text, done.stdout)
+                report = done.stderr.decode()
+                self.assertIn("\nddInit failed with -19: tables behind the failure are empty\n",
+                              report)
+                self.assertIn("loaded: 2 versions, 1 modules, 1 system functions\n"
+                              "loaded: 1 OLT port types, 0 main boards, 0 service boards\n", report)
 
     def test_missing_definition_file(self):
         done = card.run("--root", self.root, "run", "show context version")

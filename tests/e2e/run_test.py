@@ -5,7 +5,7 @@ import unittest
 import card
 
 GOLDEN = pathlib.Path(__file__).parent / "golden"
-COMMANDS = ("version", "module_all", "sys_support_func")
+COMMANDS = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all")
 OMCI_ROW = b" 0. ModuleType =  1, ulNameLen =  5, acName = OMCI         , ulSize = 64\r\n"
 
 
@@ -50,18 +50,33 @@ class Run(card.CardTest):
             b" 0. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.0\r\n"
             b" 1. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.1\r\n")
 
+    def test_board_filters(self):
+        done = self.run_command("show context board_all | include Index")
+        self.assertEqual((done.returncode, done.stdout), (0, b"Index = 0\r\nIndex = 1\r\n"))
+        done = self.run_command("show context main_board | include PhyPort")
+        self.assertEqual(
+            done.stdout, b"NoSpecialUplinkBoard_SwitchChipLogicPort =  1  ---> PhyPort: 5\r\n")
+
     def test_count_filter(self):
         self.assertEqual(self.run_command("show context version | count").stdout, b"5\r\n")
 
     def test_question_lists_words(self):
         done = self.run_command("show context ?")
         self.assertEqual(done.returncode, 0)
-        self.assertIn(b"  version              version info.\n", done.stdout)
+        for line in (b"version              version info.",
+                     b"module_all           all module info.",
+                     b"sys_support_func     sys support func info.",
+                     b"main_board           main board info.",
+                     b"olt_port             olt port info.",
+                     b"board_all            all board info."):
+            self.assertIn(b"  " + line + b"\n", done.stdout)
 
     def test_refused_commands(self):
         for command, message in (
                 ("show nothing", b'sysctx: Invalid command "show nothing"\n'),
                 ("h", b'sysctx: Ambiguous command "h": help history\n'),
+                ("show context m",
+                 b'sysctx: Ambiguous command "show context m": module_all main_board\n'),
                 ("show context", b"sysctx: Incomplete command\n"),
                 ("show context version 1",
                  b'sysctx: Invalid argument "1": the command takes none\n'),
@@ -78,6 +93,19 @@ class Run(card.CardTest):
             done.stderr,
             b"console: ddReadAllModuleInformation err! iResult = -2, section = ModuleTypeList,"
             b" key = Module2\n")
+
+    def test_boards_that_are_left_out_are_told(self):
+        self.define(card.DEFINITIONS.replace("NameKeyPort1=GPON", "NameKeyPort1=EPON"))
+        done = self.run_command("show context board_all | include Index")
+        self.assertEqual((done.returncode, done.stdout), (0, b"Index = 0\r\n"))
+        self.assertEqual(
+            done.stderr,
+            b"console: ddAddSupportedServePortToBoardObj->dd_IsOltPonTypeSupportedBySecName err!"
+            b" iResult = -32, strKey = NameKeyPort1, ulIndex = 0\n"
+            b"console: ddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err!"
+            b" strBoardTypeSection = Board_GP01A\n"
+            b"console: ddReadAllSupportedBoardInformation->ddReadOneSupportedBoardInformation err!"
+            b" iResult = -1, section = Board_GP01A\n")
 
     def test_full_device_is_told(self):
         with open("/dev/full", "wb") as full:
@@ -113,7 +141,8 @@ class Script(card.CardTest):
         self.assertEqual(
             lines[3], f"  /mnt/work/device_definition.ini: {len(card.DEFINITIONS)} bytes")
         self.assertEqual(lines[4], "  /mnt/work/optmodule_definition.ini: missing")
-        self.assertIn("loaded: 2 versions, 1 modules, 1 system functions", lines)
+        self.assertEqual(lines[5] + "\n" + lines[6] + "\n", card.LOADED)
+        self.assertEqual(lines[7], f"commands: {len(COMMANDS)} installed")
         self.assertRegex("\n".join(lines), r"module 1: SysContext, version \"\w{3} [ \d]\d \d{4} ")
 
     def test_status_is_the_last_commands(self):

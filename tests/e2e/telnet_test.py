@@ -55,6 +55,9 @@ class Telnet(card.CardTest):
     def setUp(self):
         super().setUp()
         self.define()
+        self.start()
+
+    def start(self):
         self.server = subprocess.Popen(
             [card.SYSCTX, "--root", str(self.root), "serve", "--telnet", "0"],
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
@@ -80,7 +83,7 @@ class Telnet(card.CardTest):
         return client
 
     def test_start_up_report(self):
-        self.assertIn("loaded: 2 versions, 1 modules, 1 system functions\n", self.report)
+        self.assertIn(card.LOADED, "".join(self.report))
         self.assertEqual(self.report[-1], f"listening on 127.0.0.1 port {self.port}\n")
 
     def test_only_the_loopback_address_is_served(self):
@@ -94,6 +97,23 @@ class Telnet(card.CardTest):
         answer = self.client().ask(b"show context version")
         self.assertEqual(answer, b"show context version\r\n" + VERSION_OUTPUT + PROMPT)
 
+    def test_listing_with_pauses(self):
+        rows = b"".join(
+            b"\r\n%2d. ulPortType =   2, ulNameLen =  5, acName =                 GPON, "
+            b"ulSplittingRatio = 128" % number for number in range(17))
+        self.stop()
+        self.define(card.DEFINITIONS.replace(
+            "SupportedOltPortTypeNum=1\nSupportedOltPortType1=Port_GPON\n",
+            "SupportedOltPortTypeNum=17\n" + "".join(
+                f"SupportedOltPortType{number}=Port_GPON\n" for number in range(1, 18))))
+        self.start()
+        answer = self.client().ask(b"show context olt_port")
+        self.assertEqual(
+            answer,
+            b"show context olt_port\r\n\r\n\r\nSupportedOltPort:"
+            b"\r\ngstSupportedOltPortType.ulSupportedOltPortTypeNum = 17" + rows + b"\r\n\r\n"
+            + PROMPT)
+
     def test_completion_help_abbreviation_and_filter(self):
         client = self.client()
         client.send(b"show con\t")
@@ -101,6 +121,7 @@ class Telnet(card.CardTest):
         client.send(b"?")
         help_text = client.read(b"sysctx> show context ")
         self.assertIn(b"  module_all           all module info.\r\n", help_text)
+        self.assertIn(b"  olt_port             olt port info.\r\n", help_text)
         client.send(b"\x15")
         answer = client.ask(b"sh con ver | inc 4.1")
         self.assertTrue(answer.endswith(

@@ -98,7 +98,7 @@ class Terminal(card.CardTest):
     def test_start_up_report(self):
         self.assertIn("simulated control card", self.report)
         self.assertIn(f"root: {self.root}", self.report)
-        self.assertIn("loaded: 2 versions, 1 modules, 1 system functions", self.report)
+        self.assertIn(card.LOADED, self.report.replace("\r\n", "\n"))
 
     def test_completion(self):
         self.type("sh\t", "show ")
@@ -106,6 +106,9 @@ class Terminal(card.CardTest):
         self.type("mod\t", "show context module_all ")
         output = self.type("\r", "")
         self.assertIn("acName = OMCI", output)
+        self.type("show context ma\t", "show context main_board ")
+        output = self.type("\r", "")
+        self.assertIn("acName = MCXA", output)
 
     def test_completion_goes_as_far_as_the_words_agree(self):
         self.type("show context \t", "show context ",

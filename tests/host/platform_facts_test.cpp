@@ -5,6 +5,7 @@
 
 #include "host/equipment.h"
 #include "host/modules.h"
+#include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
 namespace sysctx {
@@ -54,6 +55,20 @@ TEST_F(PlatformFacts, CardKinds) {
   EXPECT_EQ(caCheckCardTypeIsServiceCard(101), -1);
   EXPECT_EQ(caCheckCardTypeIsUplinkCard(-1), 0);
   EXPECT_EQ(caCheckCardTypeIsUplinkCard(3101), -1);
+}
+
+TEST_F(PlatformFacts, LibraryAsksWhichBoardsArePonCards) {
+  BoardInformation boards[2] = {};
+  boards[0].ulType = 3101;
+  boards[0].ulTotalServePortNum = 8;
+  boards[1].ulType = 3201;
+  boards[1].ulTotalServePortNum = 48;
+  BoardInformation* places[] = {&boards[0], &boards[1]};
+  gstSupportedBoardType = {2, places, 0, 0};
+  EXPECT_EQ(ddFindSupportedBoardMaxPonNum(), 0);
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, 3101u);
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 8u);
+  gstSupportedBoardType = {};
 }
 
 TEST_F(PlatformFacts, FittedOnus) {

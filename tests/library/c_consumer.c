@@ -10,6 +10,7 @@
 #include "sys_context/cfgfile.h"
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
+#include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
 #define COUNT(array) (sizeof(array) / sizeof((array)[0]))
@@ -53,11 +54,56 @@ static const struct {
     FUNCTION(ddReadAllModuleInformation),
     FUNCTION(ddReadOneModuleInformation),
     FUNCTION(ddReadSysSupportFuncInformation),
+    FUNCTION(ddCreateOneOltPortObjByName),
+    FUNCTION(ddGetOltPortSplittingRatioByType),
+    FUNCTION(ddIsOltPortTypeSupportedByName),
+    FUNCTION(ddReadAllSupportedOltPortInformation),
+    FUNCTION(ddReadOneSupportedOltPortInformation),
+    FUNCTION(ddGetMainBoardNameByType),
+    FUNCTION(ddGetMainBoardObjByType),
+    FUNCTION(ddGetMainBoardTypeByName),
+    FUNCTION(ddGetSpecialLogicPortToPhyPortObjByType),
+    FUNCTION(ddGetSwitchChipLogicPortFromPhyPort),
+    FUNCTION(ddGetSwitchChipPhyPortFromLogicPort),
+    FUNCTION(ddReadAllSupportedMainBoardInformation),
+    FUNCTION(ddReadAllSwitchChipLogicPortToPhyPort),
+    FUNCTION(ddReadOneSupportedMainBoardInformation),
+    FUNCTION(ddReadOneSwitchChipLogicPortToPhyPort),
+    FUNCTION(ddReadSpecialSwitchChipLogicPortToPhyPort),
+    FUNCTION(ddAddSupportedServePortToBoardObj),
+    FUNCTION(ddAddSupportedSpecialPortToBoardObj),
+    FUNCTION(ddFindSupportedBoardMaxPonNum),
+    FUNCTION(ddFreeOneBoardAllObj),
+    FUNCTION(ddReadAllSupportedBoardInformation),
+    FUNCTION(ddReadOneSupportedBoardInformation),
+    FUNCTION(ddGetBoardAllPortTypesByType),
+    FUNCTION(ddGetBoardNameByType),
+    FUNCTION(ddGetBoardOneTypePortsByType),
+    FUNCTION(ddGetBoardServePortAmountByType),
+    FUNCTION(ddGetBoardSpecialPortNumByType),
+    FUNCTION(ddGetBoardTotailPortAmountByType),
+    FUNCTION(ddGetBoardTotalSpecialPortNum),
+    FUNCTION(ddGetBoardTypeByName),
+    FUNCTION(ddGetPonMaxOnuNumByBoardType),
+    FUNCTION(ddGetPortTypeByBoardType),
+    FUNCTION(ddGetSpecialPortTypeByBoardType),
+    FUNCTION(ddGetSupportedBoardMaxPonNum),
+    FUNCTION(ddIsBoardTypeSupportedByName),
+    FUNCTION(ddGetCardNameByType),
+    FUNCTION(ddGetCardTypeByName),
+    FUNCTION(ddGetCardTypeByNocaseName),
     FUNCTION(ddCmdInit),
+    FUNCTION(ddShowAllBoardInfo_Func),
     FUNCTION(ddShowAllModuleInfo_Func),
+    FUNCTION(ddShowMainBoardInfo_Func),
+    FUNCTION(ddShowOltPortInfo_Func),
     FUNCTION(ddShowSysSupportFuncInfo_Func),
     FUNCTION(ddShowVersionInfo_Func),
     FUNCTION(ddPrintAllModuleInformation),
+    FUNCTION(ddPrintAllSupportedBoardInfomation),
+    FUNCTION(ddPrintAllSupportedMainBoardInformation),
+    FUNCTION(ddPrintAllSupportedOltPortInfomation),
+    FUNCTION(ddPrintOneSupportedBoardInfomation),
     FUNCTION(ddPrintSysSupportFuncInformation),
     FUNCTION(ddPrintVersionInformation),
 };
@@ -80,7 +126,13 @@ static const struct {
     VARIABLE(gstrddSoftwareVer),
     VARIABLE(gstModuleTypeList),
     VARIABLE(gstSysSupportFuncType),
+    VARIABLE(gstSupportedOltPortType),
+    VARIABLE(gstSupportedMainBoardType),
+    VARIABLE(gstSupportedBoardType),
+    VARIABLE(ddShowAllBoardInfo_CMD),
     VARIABLE(ddShowAllModuleInfo_CMD),
+    VARIABLE(ddShowMainBoardInfo_CMD),
+    VARIABLE(ddShowOltPortInfo_CMD),
     VARIABLE(ddShowSysSupportFuncInfo_CMD),
     VARIABLE(ddShowVersionInfo_CMD),
 };
@@ -154,6 +206,14 @@ static void variables_have_their_first_values(void) {
   CHECK(gstVersionInformation.ulSupportedSoftVerNum == 0);
   CHECK(gstModuleTypeList.ulModuleTypeNum == 0 && gstModuleTypeList.pModuleTypeArray == NULL);
   CHECK(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum == 0);
+  CHECK(gstSupportedOltPortType.ulSupportedOltPortTypeNum == 0);
+  CHECK(gstSupportedOltPortType.pOltPortTypeArray == NULL);
+  CHECK(gstSupportedMainBoardType.ulSupportedBoardTypeNum == 0);
+  CHECK(gstSupportedMainBoardType.pBoardTypeArray == NULL);
+  CHECK(gstSupportedBoardType.ulSupportedBoardTypeNum == 0);
+  CHECK(gstSupportedBoardType.pBoardTypeArray == NULL);
+  CHECK(gstSupportedBoardType.ulSupportedBoardMaxPonType == 0);
+  CHECK(gstSupportedBoardType.ulSupportedBoardMaxPonNum == 0);
 }
 
 static void a_missing_file_is_reported(void) {
@@ -174,7 +234,19 @@ static void the_library_starts(void) {
       "[ModuleTypeList]\nModuleNum = 1\nModule1 = Module_VLAN\n"
       "[Module_VLAN]\nType = 3\nName = VLAN\nSize = 300\n"
       "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum = 1\n"
-      "SupportedSysFunction1 = VLAN\n");
+      "SupportedSysFunction1 = VLAN\n"
+      "[SupportedOltPortType]\nSupportedOltPortTypeNum = 1\nSupportedOltPortType1 = Port_GPON\n"
+      "[Port_GPON]\nType = 2\nName = GPON\nSplittingRatio = 128\n"
+      "[SupportedMainBoardType]\nSupportedMainBoardTypeNum = 1\n"
+      "SupportedMainBoardType1 = Board_MCXA\n"
+      "[Board_MCXA]\nType = 101\nName = MCXA\nSwitchChipLogicPortNum = 2\n"
+      "SwitchChipLogicPort1 = 5\nSwitchChipLogicPort2 = 9\n"
+      "SpecialChipLogicPortMapPhyPortCardNum = 1\nSpecialChipLogicPortMapPhyPortCard1 = GP02A\n"
+      "GP02A_SwitchChipLogicPort1 = 7\nGP02A_SwitchChipLogicPort2 = 8\n"
+      "[SupportedBoardType]\nSupportedBoardTypeNum = 1\nSupportedBoardType1 = Board_GP02A\n"
+      "[Board_GP02A]\nType = 3102\nName = GP02A\nPortNum = 2\n"
+      "NameKeyPort1 = GPON\nNameKeyPort2 = GPON\nSpecialPortNum = 0\n");
+  platform.pon_card = 3102;
   catch_console();
   CHECK(ddInit() == 0);
   CHECK(ddCmdInit(0, 0, 0) == 0);
@@ -182,6 +254,9 @@ static void the_library_starts(void) {
   CHECK(gstVersionInformation.ulSupportedSoftVerNum == 2);
   CHECK(gstModuleTypeList.ulModuleTypeNum == 1);
   CHECK(gstSysSupportFuncType.ulSupportedSysFunctionTypeNum == 1);
+  CHECK(gstSupportedOltPortType.ulSupportedOltPortTypeNum == 1);
+  CHECK(gstSupportedMainBoardType.ulSupportedBoardTypeNum == 1);
+  CHECK(gstSupportedBoardType.ulSupportedBoardTypeNum == 1);
 }
 
 static void queries_are_answered(void) {
@@ -196,10 +271,33 @@ static void queries_are_answered(void) {
   CHECK(ddIsSysSupportFunc(3, &number) == 0 && number == 1);
 }
 
+static void olt_queries_are_answered(void) {
+  char name[MAX_BOARD_NAME_LEN];
+  uint32_t number = 0;
+  PortMap* map = NULL;
+  CHECK(ddGetOltPortSplittingRatioByType(2, &number) == 0 && number == 128);
+  CHECK(ddGetMainBoardNameByType(101, name) == 0 && strcmp(name, "MCXA") == 0);
+  CHECK(ddGetSpecialLogicPortToPhyPortObjByType(101, 3102, &map) == 0);
+  CHECK(map != NULL && strcmp(map->acBoardName, "GP02A") == 0);
+  CHECK(ddGetSwitchChipPhyPortFromLogicPort(2, map, &number) == 0 && number == 8);
+  CHECK(ddGetBoardServePortAmountByType(3102, &number) == 0 && number == 2);
+  CHECK(ddGetPonMaxOnuNumByBoardType(3102, 2, &number) == 0 && number == 128);
+  CHECK(ddGetSupportedBoardMaxPonNum(&number) == 0 && number == 2);
+  CHECK(ddGetCardTypeByNocaseName("gp02a", &number) == 0 && number == 3102);
+}
+
+static void a_board_can_be_freed_by_the_host(void) {
+  BoardInformation* board = NULL;
+  CHECK(ddReadOneSupportedBoardInformation("/mnt/work/device_definition.ini", "Board_GP02A", 0,
+                                           &board) == 0);
+  CHECK(board != NULL && board->ulTotalServePortNum == 2);
+  CHECK(ddFreeOneBoardAllObj(board) == 0);
+}
+
 static void commands_are_installed(void) {
   int terminal = 0;
   CHECK(platform.registered == 1 && platform.versions == 1);
-  CHECK(platform.installed == 3);
+  CHECK(platform.installed == 6);
   CHECK(platform.records[0] == &ddShowVersionInfo_CMD);
   CommandRecord* const record = platform.records[2];
   CHECK(strcmp(record->string, "show context sys_support_func") == 0);
@@ -208,6 +306,23 @@ static void commands_are_installed(void) {
   CHECK(strcmp(platform.terminal,
                "\r\nSysSupportFuncInformation:\r\ngstSysSupportFuncType.ulSysSupportFuncNum = 1"
                "\r\n 0. ulModuleType =  3, aucModuleName = VLAN  \r\n\r\n") == 0);
+}
+
+static void boards_are_shown(void) {
+  int terminal = 0;
+  platform.terminal[0] = '\0';
+  CHECK(ddPrintOneSupportedBoardInfomation(gstSupportedBoardType.pBoardTypeArray[0], &terminal) ==
+        0);
+  CHECK(platform.terminal_used == &terminal);
+  CHECK(strcmp(platform.terminal,
+               "\r\n ulType = 3102, ulSubType =  0, ulNameLen =  6, acName =    GP02A, "
+               "ulTotalServePortNum =  2, ulTotalSpecialPortNum =  0"
+               "\r\nServePort = 2"
+               "\r\n   0. ulPortType =   2, ulNameLen =  5, acName =     GPON, "
+               "ulSplittingRatio = 128"
+               "\r\n   1. ulPortType =   2, ulNameLen =  5, acName =     GPON, "
+               "ulSplittingRatio = 128"
+               "\r\nSpecialPort = 0\r\n") == 0);
 }
 
 static void hooks_do_nothing(void) {
@@ -226,7 +341,10 @@ int main(int argc, char** argv) {
   a_missing_file_is_reported();
   the_library_starts();
   queries_are_answered();
+  olt_queries_are_answered();
+  a_board_can_be_freed_by_the_host();
   commands_are_installed();
+  boards_are_shown();
   hooks_do_nothing();
   return failures() == 0 ? 0 : 1;
 }

@@ -118,3 +118,7 @@ int32_t bep_taskDelayEx(int32_t ticks) {
   (void)ticks;
   return 0;
 }
+
+int32_t caCheckCardTypeIsPonCard(int16_t cardType) {
+  return platform.pon_card != 0 && cardType == platform.pon_card ? 0 : 1;
+}

@@ -21,7 +21,7 @@ void set_definition_file(const char* bytes);
 /* Files that were opened since the start. */
 int files_opened(void);
 
-/* What the platform was asked, and what the terminal shows. */
+/* What the platform was asked and answers, and what the terminal shows. */
 struct Platform {
   int installed;
   CommandRecord* records[32];
@@ -29,6 +29,7 @@ struct Platform {
   int versions;
   void* terminal_used;
   char terminal[8192];
+  int16_t pon_card; /* the card type that is a PON card; 0: none is */
 };
 extern struct Platform platform;
 

@@ -9,6 +9,7 @@
 
 #include "host.h"
 #include "sys_context/context.h"
+#include "sys_context/olt.h"
 
 #if OWN_DATA
 int32_t ddDebugPrint = 1;
@@ -49,16 +50,46 @@ static void written_tables_are_seen(void) {
   CHECK(ddIsSysSupportFunc(4, &number) == 0 && number == 1);
 }
 
+static void written_olt_tables_are_seen(void) {
+  static OltPortInformation type = {
+      .ulPortType = 2, .ulNameLen = 5, .acName = "GPON", .ulSplittingRatio = 128};
+  static OltPortInformation* types[] = {&type};
+  static MainBoardInformation main_board = {.ulType = 101, .ulNameLen = 5, .acName = "MCXA"};
+  static MainBoardInformation* main_boards[] = {&main_board};
+  static BoardInformation board = {.ulType = 3401, .ulNameLen = 5, .acName = "PWDA"};
+  static BoardInformation* boards[] = {&board};
+  uint32_t number = 0;
+  gstSupportedOltPortType.ulSupportedOltPortTypeNum = 1;
+  gstSupportedOltPortType.pOltPortTypeArray = types;
+  gstSupportedMainBoardType.ulSupportedBoardTypeNum = 1;
+  gstSupportedMainBoardType.pBoardTypeArray = main_boards;
+  gstSupportedBoardType.ulSupportedBoardTypeNum = 1;
+  gstSupportedBoardType.pBoardTypeArray = boards;
+  CHECK(ddGetOltPortSplittingRatioByType(2, &number) == 0 && number == 128);
+  CHECK(ddGetCardTypeByName("MCXA", &number) == 0 && number == 101);
+  CHECK(ddGetCardTypeByName("PWDA", &number) == 0 && number == 3401);
+}
+
 static void loaded_tables_are_seen(void) {
   set_definition_file(
       "[Version]\nSupportedSoftwareVer=HostV2\n"
       "[ModuleTypeList]\nModuleNum=1\nModule1=S\n[S]\nType=8\nName=N\nSize=1\n"
-      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=1\nSupportedSysFunction1=N\n");
+      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=1\nSupportedSysFunction1=N\n"
+      "[SupportedOltPortType]\nSupportedOltPortTypeNum=1\nSupportedOltPortType1=P\n"
+      "[P]\nType=31\nName=GE\nSplittingRatio=0\n"
+      "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=1\nSupportedMainBoardType1=M\n"
+      "[M]\nType=102\nName=MCXB\nSwitchChipLogicPortNum=0\n"
+      "SpecialChipLogicPortMapPhyPortCardNum=0\n"
+      "[SupportedBoardType]\nSupportedBoardTypeNum=1\nSupportedBoardType1=B\n"
+      "[B]\nType=3411\nName=FANA\nPortNum=0\nSpecialPortNum=0\n");
   CHECK(ddInit() == 0);
   CHECK(gstVersionInformation.ulSupportedSoftVerNum == 1);
   CHECK(gstModuleTypeList.ulModuleTypeNum == 1);
   CHECK(gstModuleTypeList.pModuleTypeArray[0]->ulModuleType == 8);
   CHECK(gstSysSupportFuncType.aulSupportedSysFunctionType[0] == 8);
+  CHECK(gstSupportedOltPortType.pOltPortTypeArray[0]->ulPortType == 31);
+  CHECK(gstSupportedMainBoardType.pBoardTypeArray[0]->ulType == 102);
+  CHECK(gstSupportedBoardType.pBoardTypeArray[0]->ulType == 3411);
 }
 
 int main(void) {
@@ -77,6 +108,7 @@ int main(void) {
   the_debug_switch_is_seen();
   the_software_version_is_seen();
   written_tables_are_seen();
+  written_olt_tables_are_seen();
   loaded_tables_are_seen();
   return failures() == 0 ? 0 : 1;
 }

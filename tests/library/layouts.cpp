@@ -6,6 +6,7 @@
 #include "sys_context/cfgfile.h"
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
+#include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
 static_assert(sizeof(SupportedSoftVer) == 104);
@@ -28,7 +29,63 @@ static_assert(sizeof(SysSupportFuncType) == 804);
 static_assert(offsetof(SysSupportFuncType, ulSupportedSysFunctionTypeNum) == 0);
 static_assert(offsetof(SysSupportFuncType, aulSupportedSysFunctionType) == 4);
 
+static_assert(sizeof(OltPortInformation) == 76);
+static_assert(offsetof(OltPortInformation, ulPortType) == 0);
+static_assert(offsetof(OltPortInformation, ulNameLen) == 4);
+static_assert(offsetof(OltPortInformation, acName) == 8);
+static_assert(sizeof(OltPortInformation::acName) == 60);
+static_assert(offsetof(OltPortInformation, ulSplittingRatio) == 68);
+static_assert(offsetof(OltPortInformation, ulLink) == 72);
+
+static_assert(sizeof(PortPair) == 4);
+static_assert(offsetof(PortPair, usLogicPort) == 0);
+static_assert(offsetof(PortPair, usPhyPort) == 2);
+
+static_assert(sizeof(PortMap) == 5184);
+static_assert(offsetof(PortMap, ulBoardNameLen) == 0);
+static_assert(offsetof(PortMap, acBoardName) == 4);
+static_assert(sizeof(PortMap::acBoardName) == 60);
+static_assert(offsetof(PortMap, astPortPair) == 64);
+static_assert(sizeof(PortMap::astPortPair) == 5120);
+
+static_assert(sizeof(MainBoardInformation) == 103760);
+static_assert(offsetof(MainBoardInformation, ulType) == 0);
+static_assert(offsetof(MainBoardInformation, ulSubType) == 4);
+static_assert(offsetof(MainBoardInformation, ulNameLen) == 8);
+static_assert(offsetof(MainBoardInformation, acName) == 12);
+static_assert(sizeof(MainBoardInformation::acName) == 60);
+static_assert(offsetof(MainBoardInformation, ulSwitchChipLogicPortNum) == 72);
+static_assert(offsetof(MainBoardInformation, ulChipLogicPortToPhyPortTypeNum) == 76);
+static_assert(offsetof(MainBoardInformation, astPortMap) == 80);
+static_assert(sizeof(MainBoardInformation::astPortMap) == 103680);
+
 constexpr bool kOnCard = sizeof(void*) == 4;
+
+static_assert(!kOnCard || sizeof(SupportedOltPortType) == 8);
+static_assert(!kOnCard || offsetof(SupportedOltPortType, ulSupportedOltPortTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedOltPortType, pOltPortTypeArray) == 4);
+
+static_assert(!kOnCard || sizeof(SupportedMainBoardType) == 8);
+static_assert(!kOnCard || offsetof(SupportedMainBoardType, ulSupportedBoardTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedMainBoardType, pBoardTypeArray) == 4);
+
+static_assert(!kOnCard || sizeof(BoardInformation) == 92);
+static_assert(!kOnCard || offsetof(BoardInformation, ulType) == 0);
+static_assert(!kOnCard || offsetof(BoardInformation, ulSubType) == 4);
+static_assert(!kOnCard || offsetof(BoardInformation, ulNameLen) == 8);
+static_assert(!kOnCard || offsetof(BoardInformation, acName) == 12);
+static_assert(!kOnCard || sizeof(BoardInformation::acName) == 60);
+static_assert(!kOnCard || offsetof(BoardInformation, ulTotalServePortNum) == 72);
+static_assert(!kOnCard || offsetof(BoardInformation, pPortArray) == 76);
+static_assert(!kOnCard || offsetof(BoardInformation, ulTotalSpecialPortNum) == 80);
+static_assert(!kOnCard || offsetof(BoardInformation, pSpecialPortArray) == 84);
+static_assert(!kOnCard || offsetof(BoardInformation, ulReserved) == 88);
+
+static_assert(!kOnCard || sizeof(SupportedBoardType) == 16);
+static_assert(!kOnCard || offsetof(SupportedBoardType, ulSupportedBoardTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedBoardType, pBoardTypeArray) == 4);
+static_assert(!kOnCard || offsetof(SupportedBoardType, ulSupportedBoardMaxPonType) == 8);
+static_assert(!kOnCard || offsetof(SupportedBoardType, ulSupportedBoardMaxPonNum) == 12);
 
 static_assert(!kOnCard || sizeof(ModuleTypeList) == 8);
 static_assert(!kOnCard || offsetof(ModuleTypeList, ulModuleTypeNum) == 0);
@@ -46,3 +103,12 @@ static_assert(MAX_SUPPORTED_SOFT_VER_LEN == 100);
 static_assert(MAX_SUPPORTED_MODULE_TYPE_NUM == 200);
 static_assert(MAX_MODULE_NAME_LEN == 60);
 static_assert(CFG_VALUE_SIZE == 513);
+static_assert(MAX_OLT_PORT_TYPE_NUM == 30);
+static_assert(DD_MAX_ONU_NUM_PER_PON == 512);
+static_assert(MAX_OLT_PORT_NAME_LEN == 60);
+static_assert(MAX_OLT_BOARD_TYPE_NUM == 100);
+static_assert(MAX_SWITCH_CHIP_LOGIC_PORT_NUM == 1280);
+static_assert(MAX_SWITCH_CHIP_LOGIC_PORT_TYPE_NUM == 20);
+static_assert(MAX_BOARD_NAME_LEN == 60);
+static_assert(MAX_OLT_PORT_NUM_PER_BOARD == 128);
+static_assert(MAX_OLT_SPECIAL_PORT_NUM_PER_BOARD == 128);

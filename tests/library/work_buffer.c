@@ -103,7 +103,14 @@ static void around_a_good_parse(void) {
   memset(&seen, 0, sizeof seen);
   set_definition_file(
       "[Version]\nSupportedSoftwareVer=V\n[ModuleTypeList]\nModuleNum=0\n"
-      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=0\n");
+      "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=0\n"
+      "[SupportedOltPortType]\nSupportedOltPortTypeNum=1\nSupportedOltPortType1=P\n"
+      "[P]\nType=2\nName=GPON\nSplittingRatio=128\n"
+      "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=1\nSupportedMainBoardType1=M\n"
+      "[M]\nType=101\nName=MCXA\nSwitchChipLogicPortNum=0\n"
+      "SpecialChipLogicPortMapPhyPortCardNum=0\n"
+      "[SupportedBoardType]\nSupportedBoardTypeNum=1\nSupportedBoardType1=B\n"
+      "[B]\nType=3401\nName=PWDA\nPortNum=0\nSpecialPortNum=0\n");
   const int before = files_opened();
   catch_console();
   const int32_t code = ddReadContextFile();
@@ -111,9 +118,10 @@ static void around_a_good_parse(void) {
   CHECK(code == 0);
   CHECK(strcmp(said, "") == 0);
   the_buffer_was_taken_zeroed_and_given_back();
-  CHECK(seen.opened_before == before);         /* nothing was read before */
-  CHECK(seen.opened_until_free == before + 3); /* and all of it meanwhile */
-  CHECK(files_opened() == before + 3);
+  const int after = files_opened();
+  CHECK(after > before);
+  CHECK(seen.opened_before == before);    /* nothing was read before */
+  CHECK(seen.opened_until_free == after); /* and all of it meanwhile */
 }
 
 static void around_a_failing_parse(void) {

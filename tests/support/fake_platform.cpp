@@ -50,6 +50,14 @@ int32_t setModVersion(int32_t modId, int32_t number, const char* version) {
 }
 
 int32_t bep_taskDelayEx(int32_t ticks) {
-  FakePlatform::Get().delays.push_back(ticks);
+  FakePlatform& platform = FakePlatform::Get();
+  platform.delays.push_back(ticks);
+  platform.shown_before_delays.push_back(platform.terminal.size());
   return 0;
+}
+
+int32_t caCheckCardTypeIsPonCard(int16_t cardType) {
+  FakePlatform& platform = FakePlatform::Get();
+  platform.asked_pon_cards.push_back(cardType);
+  return platform.pon_cards.count(cardType) != 0 ? 0 : platform.not_a_pon_card;
 }

@@ -2,6 +2,7 @@
 // answers as the test says. Every test starts with a fresh one.
 #pragma once
 
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,9 +39,15 @@ struct FakePlatform {
   std::vector<Version> versions;
   int32_t version_result = 0;
 
-  // Task delay: the ticks of each call, and the console's or terminal's state
-  // at that time is up to the test.
+  // Task delay: the ticks of each call, and how many bytes the terminal showed
+  // at that time.
   std::vector<int32_t> delays;
+  std::vector<size_t> shown_before_delays;
+
+  // Card kinds: which types are PON cards, and the types that were asked about.
+  std::set<int16_t> pon_cards;
+  int32_t not_a_pon_card = 1;  // what the others are answered
+  std::vector<int16_t> asked_pon_cards;
 };
 
 }  // namespace test

@@ -4,17 +4,42 @@
 #include <cstdlib>
 
 #include "sys_context/cfgfile.h"
+#include "sys_context/olt.h"
 
 namespace test {
 
-void ResetTables() {
-  for (uint32_t i = 0; i < gstModuleTypeList.ulModuleTypeNum; ++i) {
-    if (gstModuleTypeList.pModuleTypeArray != nullptr) {
-      std::free(gstModuleTypeList.pModuleTypeArray[i]);
-    }
+namespace {
+
+template <typename Record, typename Release>
+void ReleaseRecords(uint32_t count, Record** records, Release release) {
+  for (uint32_t i = 0; records != nullptr && i < count; ++i) {
+    release(records[i]);
   }
-  std::free(gstModuleTypeList.pModuleTypeArray);
+  std::free(records);
+}
+
+void ReleaseBoard(BoardInformation* board) {
+  if (board != nullptr) {
+    ReleaseRecords(board->ulTotalServePortNum, board->pPortArray, std::free);
+    ReleaseRecords(board->ulTotalSpecialPortNum, board->pSpecialPortArray, std::free);
+    std::free(board);
+  }
+}
+
+}  // namespace
+
+void ResetTables() {
+  ReleaseRecords(gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray, std::free);
   gstModuleTypeList = {};
+  ReleaseRecords(gstSupportedOltPortType.ulSupportedOltPortTypeNum,
+                 gstSupportedOltPortType.pOltPortTypeArray, std::free);
+  gstSupportedOltPortType = {};
+  ReleaseRecords(gstSupportedMainBoardType.ulSupportedBoardTypeNum,
+                 gstSupportedMainBoardType.pBoardTypeArray, std::free);
+  gstSupportedMainBoardType = {};
+  ReleaseRecords(gstSupportedBoardType.ulSupportedBoardTypeNum,
+                 gstSupportedBoardType.pBoardTypeArray, ReleaseBoard);
+  gstSupportedBoardType = {};
   gstVersionInformation = {};
   gstSysSupportFuncType = {};
   gstrddSoftwareVer = "KT2200V4.0";

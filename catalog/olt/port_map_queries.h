@@ -1,0 +1,19 @@
+// Translations in one port map, in the form that leaves it to the caller what
+// they mean.
+#pragma once
+
+#include <cstdint>
+
+#include "sys_context/olt.h"
+
+namespace sys_context {
+
+// The first pair of the logic port, whatever it is wired to, or null. Ports are
+// compared by their low 8 bits.
+const PortPair* FindLogicPort(const PortMap& map, uint32_t logic_port);
+
+// Stores the logic ports that are wired to the physical port, as many as there is
+// room for. Returns how many there are in all.
+uint32_t FindPhyPort(const PortMap& map, uint32_t phy_port, uint32_t* logic_ports, uint32_t room);
+
+}  // namespace sys_context

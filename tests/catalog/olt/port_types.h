@@ -1,0 +1,145 @@
+// OLT port types: as definition files describe them, and as a query may find them.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "support/tables.h"
+#include "sys_context/olt.h"
+
+namespace test {
+
+// ---- In a definition file ----------------------------------------------------
+
+inline std::string PortTypeSection(const std::string& section, const std::string& type,
+                                   const std::string& name, const std::string& ratio) {
+  return "[" + section + "]\nType=" + type + "\nName=" + name + "\nSplittingRatio=" + ratio + "\n";
+}
+
+// The head of a list that announces `number` port types.
+inline std::string AnnouncePortTypes(const std::string& number) {
+  return "[SupportedOltPortType]\nSupportedOltPortTypeNum=" + number + "\n";
+}
+
+// A list of the sections S1, S2 and S3, and behind it `sections`.
+inline std::string ThreePortTypes(const std::string& sections) {
+  return AnnouncePortTypes("3") +
+         "SupportedOltPortType1=S1\nSupportedOltPortType2=S2\nSupportedOltPortType3=S3\n" +
+         sections;
+}
+
+// ---- In a message ------------------------------------------------------------
+
+// A pointer as the card prints it: the low 32 bits.
+inline std::string Pointer(const void* pointer) {
+  char text[20];
+  std::snprintf(text, sizeof text, "0x%x",
+                static_cast<unsigned>(reinterpret_cast<uintptr_t>(pointer) & 0xffffffff));
+  return text;
+}
+
+// ---- In the table ------------------------------------------------------------
+
+enum class PortTypes {
+  kLoaded,             // eight records, see below
+  kEmptyPlaces,        // the same with empty places at 0 and 2
+  kLengthTooLarge,     // the same; the name length of the third one is 61
+  kLengthFarTooLarge,  // the same; it is the largest number
+  kFull,               // 30 records: types 1 to 30, names T1 to T30, ratios 101 to 130
+  kNone,               // no array, count 0
+  kNoneButCount,       // no array, count 3
+  kNoRecords,          // array there, count 0
+  kCorrupt,            // count 31, array there
+  kCorruptNone,        // count 31, no array
+  kCorruptMost,        // the largest count, array there
+};
+
+// Behind the name, and in the reserved word, are traces that no copy may take over.
+inline OltPortInformation PortType(uint32_t type, const std::string& name, uint32_t ratio) {
+  OltPortInformation record = {};
+  record.ulPortType = type;
+  record.ulNameLen = static_cast<uint32_t>(name.size() + 1);
+  std::memset(record.acName, '#', sizeof record.acName);
+  std::memcpy(record.acName, name.c_str(), name.size() + 1);
+  record.ulSplittingRatio = ratio;
+  record.ulLink = 0x5a5a;
+  return record;
+}
+
+class PortTypesTest : public LibraryTest {
+ protected:
+  void TearDown() override {
+    gstSupportedOltPortType = {};  // its records are this fixture's
+    LibraryTest::TearDown();
+  }
+
+  void Put(PortTypes types) {
+    records_ = types == PortTypes::kFull ? Thirty() : Eight();
+    slots_.clear();
+    for (OltPortInformation& record : records_) {
+      slots_.push_back(&record);
+    }
+    if (types == PortTypes::kEmptyPlaces) {
+      slots_.insert(slots_.begin(), nullptr);
+      slots_.insert(slots_.begin() + 2, nullptr);
+    }
+    if (types == PortTypes::kLengthTooLarge) {
+      records_[2].ulNameLen = 61;
+    }
+    if (types == PortTypes::kLengthFarTooLarge) {
+      records_[2].ulNameLen = 0xffffffff;
+    }
+    gstSupportedOltPortType = {Count(types), HasArray(types) ? slots_.data() : nullptr};
+  }
+
+  Console console_;
+  std::vector<OltPortInformation> records_;
+  std::vector<OltPortInformation*> slots_;
+
+ private:
+  static std::vector<OltPortInformation> Eight() {
+    return {PortType(1, "GPON", 64),
+            PortType(2, "XGPON", 128),
+            PortType(1, "gpon", 32),
+            PortType(3, "GPON", 16),
+            PortType(4, std::string(59, 'p'), 512),
+            PortType(0xffffffff, "", 0),
+            PortType(0, "ZERO", 513),
+            PortType(5, "WIDE", 0xffffffff)};
+  }
+
+  static std::vector<OltPortInformation> Thirty() {
+    std::vector<OltPortInformation> records;
+    for (uint32_t i = 1; i <= 30; ++i) {
+      records.push_back(PortType(i, "T" + std::to_string(i), 100 + i));
+    }
+    return records;
+  }
+
+  uint32_t Count(PortTypes types) const {
+    switch (types) {
+      case PortTypes::kNone:
+      case PortTypes::kNoRecords:
+        return 0;
+      case PortTypes::kNoneButCount:
+        return 3;
+      case PortTypes::kCorrupt:
+      case PortTypes::kCorruptNone:
+        return 31;
+      case PortTypes::kCorruptMost:
+        return 0xffffffff;
+      default:
+        return static_cast<uint32_t>(slots_.size());
+    }
+  }
+
+  static bool HasArray(PortTypes types) {
+    return types != PortTypes::kNone && types != PortTypes::kNoneButCount &&
+           types != PortTypes::kCorruptNone;
+  }
+};
+
+}  // namespace test

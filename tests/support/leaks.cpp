@@ -1,0 +1,77 @@
+// Walking the tables.
+#include "support/leaks.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "sys_context/context.h"
+#include "sys_context/olt.h"
+
+namespace test {
+namespace {
+
+using Blocks = std::set<void*>;
+
+void Add(Blocks& blocks, void* block) {
+  if (block != nullptr) {
+    blocks.insert(block);
+  }
+}
+
+template <typename Record>
+void AddRecords(Blocks& blocks, uint32_t count, Record** records) {
+  Add(blocks, records);
+  for (uint32_t i = 0; records != nullptr && i < count; ++i) {
+    Add(blocks, records[i]);
+  }
+}
+
+Blocks ReachableBlocks() {
+  Blocks blocks;
+  AddRecords(blocks, gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray);
+  AddRecords(blocks, gstSupportedOltPortType.ulSupportedOltPortTypeNum,
+             gstSupportedOltPortType.pOltPortTypeArray);
+  AddRecords(blocks, gstSupportedMainBoardType.ulSupportedBoardTypeNum,
+             gstSupportedMainBoardType.pBoardTypeArray);
+  const SupportedBoardType& boards = gstSupportedBoardType;
+  AddRecords(blocks, boards.ulSupportedBoardTypeNum, boards.pBoardTypeArray);
+  for (uint32_t i = 0; boards.pBoardTypeArray != nullptr && i < boards.ulSupportedBoardTypeNum;
+       ++i) {
+    if (const BoardInformation* const board = boards.pBoardTypeArray[i]; board != nullptr) {
+      AddRecords(blocks, board->ulTotalServePortNum, board->pPortArray);
+      AddRecords(blocks, board->ulTotalSpecialPortNum, board->pSpecialPortArray);
+    }
+  }
+  return blocks;
+}
+
+}  // namespace
+
+std::set<void*> LostBlocks(const Faults& faults) {
+  const Blocks reachable = ReachableBlocks();
+  Blocks lost;
+  for (const auto& [block, size] : faults.blocks) {
+    if (reachable.count(block) == 0) {
+      lost.insert(block);
+    }
+  }
+  return lost;
+}
+
+void ExpectNoLeak(const Faults& faults) {
+  EXPECT_EQ(LostBlocks(faults), Blocks());
+  for (void* const block : ReachableBlocks()) {
+    EXPECT_EQ(faults.blocks.count(block), 1u) << "a table leads to a block that was freed";
+  }
+}
+
+void ExpectAndReleaseLost(Faults& faults, size_t lost) {
+  const Blocks blocks = LostBlocks(faults);
+  EXPECT_EQ(blocks.size(), lost);
+  for (void* const block : blocks) {
+    std::free(block);
+  }
+}
+
+}  // namespace test
