@@ -165,7 +165,7 @@ DefinitionFile HugeSection(size_t bytes, OddLines odd) {
   return writer.file();
 }
 
-TemporaryFile::TemporaryFile(std::string_view text) : path_("/tmp/reader_bench.XXXXXX") {
+TemporaryFile::TemporaryFile(std::string_view text) : path_("/tmp/bench.XXXXXX") {
   const int descriptor = mkstemp(path_.data());
   std::FILE* const stream = descriptor < 0 ? nullptr : fdopen(descriptor, "wb");
   if (stream == nullptr) {

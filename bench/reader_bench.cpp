@@ -1,6 +1,4 @@
-// Measures what a lookup costs. All repetitions of all contestants run in
-// random order, and the fastest of each counts, so that what else the machine
-// does falls on all alike. Times are processor time.
+// Measures what a lookup costs.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -10,12 +8,14 @@
 
 #include "bench/contestants.h"
 #include "bench/definition_file.h"
+#include "bench/measure.h"
 #include "bench/names.h"
 #include "bench/results.h"
 
 namespace bench {
 namespace {
 
+constexpr int kRepetitions = 9;
 constexpr size_t kKilobyte = 1000;
 constexpr size_t kMegabyte = 1000 * kKilobyte;
 
@@ -146,37 +146,8 @@ void AddScenarios(Bench& bench) {
   bench.Add(kOddLines, kHugeOddBytes, huge_odd, huge_odd.last);
 }
 
-// Keeps the minima; the tables are printed at the end.
-class MinimaReporter : public benchmark::BenchmarkReporter {
- public:
-  bool ReportContext(const Context&) override { return true; }
-
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type == Run::RT_Iteration) {
-        minima_.Add(run.run_name.function_name, run.GetAdjustedCPUTime());
-      }
-    }
-  }
-
-  const Minima& minima() const { return minima_; }
-
- private:
-  Minima minima_;
-};
-
 int Main(int argc, char** argv) {
-  // Arguments given by hand come later and win.
-  std::vector<std::string> arguments = {argv[0], "--benchmark_enable_random_interleaving=true",
-                                        "--benchmark_repetitions=9", "--benchmark_min_time=0.03"};
-  arguments.insert(arguments.end(), argv + 1, argv + argc);
-  std::vector<char*> pointers;
-  for (std::string& argument : arguments) {
-    pointers.push_back(argument.data());
-  }
-  int count = static_cast<int>(pointers.size());
-  benchmark::Initialize(&count, pointers.data());
-  if (benchmark::ReportUnrecognizedArguments(count, pointers.data())) {
+  if (!TakeOptions(argc, argv, kRepetitions)) {
     return 2;
   }
   Bench bench;
@@ -184,9 +155,7 @@ int Main(int argc, char** argv) {
   if (!bench.all_agree()) {
     return 2;
   }
-  MinimaReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  const bool all_met = PrintResults(bench.scenarios(), reporter.minima());
+  const bool all_met = PrintResults(bench.scenarios(), Measure());
   return all_met ? 0 : 1;
 }
 

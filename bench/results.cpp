@@ -5,67 +5,10 @@
 #include <cstdio>
 
 #include "bench/names.h"
+#include "bench/table.h"
 
 namespace bench {
 namespace {
-
-// Cells, padded so that the table also reads well on a terminal.
-class Table {
- public:
-  using Cells = std::vector<std::string>;
-
-  explicit Table(const Cells& head) : rows_(1, head) {}
-
-  void Row(const Cells& cells) { rows_.push_back(cells); }
-
-  void Print() const {
-    std::vector<size_t> widths(rows_[0].size());
-    for (const Cells& row : rows_) {
-      for (size_t i = 0; i < row.size(); ++i) {
-        widths[i] = std::max(widths[i], row[i].size());
-      }
-    }
-    PrintRow(rows_[0], widths);
-    for (size_t i = 0; i < widths.size(); ++i) {
-      const std::string dashes(widths[i], '-');
-      std::printf("|%s%s", dashes.c_str(), i == 0 ? "--" : "-:");
-    }
-    std::printf("|\n");
-    for (size_t i = 1; i < rows_.size(); ++i) {
-      PrintRow(rows_[i], widths);
-    }
-    std::printf("\n");
-  }
-
- private:
-  static void PrintRow(const Cells& row, const std::vector<size_t>& widths) {
-    for (size_t i = 0; i < row.size(); ++i) {
-      const int width = static_cast<int>(widths[i]);
-      std::printf(i == 0 ? "| %-*s " : "| %*s ", width, row[i].c_str());
-    }
-    std::printf("|\n");
-  }
-
-  std::vector<Cells> rows_;
-};
-
-std::string Number(double number, int decimals) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.*f", decimals, number);
-  return text;
-}
-
-std::string Ratio(double ratio) {
-  return Number(ratio, 2);
-}
-
-// Three digits will do.
-std::string Microseconds(double microseconds) {
-  if (microseconds == 0) {
-    return "-";
-  }
-  return Number(microseconds, microseconds < 10 ? 2 : microseconds < 100 ? 1 : 0);
-}
 
 class Results {
  public:
@@ -81,7 +24,7 @@ class Results {
         continue;
       }
       const auto cell = [&](const std::string& contestant) {
-        return Microseconds(minima_.Get(scenario.name, contestant));
+        return Time(minima_.Get(scenario.name, contestant));
       };
       table.Row({scenario.name, std::to_string(scenario.lookup.bytes), cell(kLibrary),
                  cell(kLibraryWithOffset), cell(scenario.floor), Ratio(AboveFloor(scenario)),
@@ -97,9 +40,8 @@ class Results {
     Table table({"", "us per lookup", "odd lines", "ratio", "ns per odd line"});
     for (const Scenario& scenario : scenarios_) {
       if (scenario.group == Scenario::Group::kOddLines) {
-        table.Row({scenario.name, Microseconds(Library(scenario)),
-                   std::to_string(scenario.odd_lines), Ratio(AboveOrdinary(scenario)),
-                   Number(PerOddLine(scenario), 0)});
+        table.Row({scenario.name, Time(Library(scenario)), std::to_string(scenario.odd_lines),
+                   Ratio(AboveOrdinary(scenario)), Number(PerOddLine(scenario), 0)});
       }
     }
     table.Print();
@@ -186,18 +128,6 @@ class Results {
 };
 
 }  // namespace
-
-void Minima::Add(const std::string& name, double microseconds) {
-  const auto [place, is_new] = minima_.emplace(name, microseconds);
-  if (!is_new) {
-    place->second = std::min(place->second, microseconds);
-  }
-}
-
-double Minima::Get(const std::string& scenario, const std::string& contestant) const {
-  const auto place = minima_.find(Name(scenario, contestant));
-  return place == minima_.end() ? 0 : place->second;
-}
 
 bool PrintResults(const std::vector<Scenario>& scenarios, const Minima& minima) {
   Results results(scenarios, minima);

@@ -1,28 +1,13 @@
-// What was measured, and the tables and verdicts made of it.
+// The tables and verdicts made of what was measured of the lookups.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
 #include "bench/definition_file.h"
+#include "bench/measure.h"
 
 namespace bench {
-
-// The fastest repetition of each contestant in each scenario.
-class Minima {
- public:
-  void Add(const std::string& name, double microseconds);
-  // 0 for what was not measured.
-  double Get(const std::string& scenario, const std::string& contestant) const;
-
-  static std::string Name(const std::string& scenario, const std::string& contestant) {
-    return scenario + ": " + contestant;
-  }
-
- private:
-  std::map<std::string, double> minima_;
-};
 
 // One file and one lookup in it.
 struct Scenario {

@@ -1,0 +1,152 @@
+// Loads the tables of a definition file, as a host does, and prints what they
+// take of the heap. Its own malloc, calloc, free and fopen stand in front of the
+// C library's.
+#include <fcntl.h>
+#include <malloc.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <iterator>
+#include <string>
+
+#include "bench/table.h"
+#include "sys_context/context.h"
+#include "sys_context/olt.h"
+
+extern "C" void* __libc_malloc(size_t size);
+extern "C" void* __libc_calloc(size_t count, size_t size);
+extern "C" void __libc_free(void* block);
+
+namespace {
+
+// Blocks, the bytes that were asked for, and those that the allocator took.
+struct Use {
+  size_t blocks = 0;
+  size_t asked = 0;
+  size_t taken = 0;
+
+  Use Since(const Use& before) const {
+    return {blocks - before.blocks, asked - before.asked, taken - before.taken};
+  }
+};
+
+struct Block {
+  void* start;
+  size_t asked;
+};
+
+// What is on the heap now. It must not allocate itself.
+constinit Block blocks[100000] = {};
+constinit Use now = {};
+constinit Use peak = {};
+
+size_t Taken(void* block) {
+  return malloc_usable_size(block) + sizeof(size_t);  // the size word in front of it
+}
+
+void* Enter(void* start, size_t asked) {
+  if (start == nullptr || now.blocks == std::size(blocks)) {
+    std::abort();
+  }
+  blocks[now.blocks] = {start, asked};
+  now = {now.blocks + 1, now.asked + asked, now.taken + Taken(start)};
+  if (now.taken > peak.taken) {
+    peak = now;
+  }
+  return start;
+}
+
+void Leave(void* start) {
+  for (size_t i = now.blocks; i-- > 0;) {
+    if (blocks[i].start == start) {
+      now = {now.blocks - 1, now.asked - blocks[i].asked, now.taken - Taken(start)};
+      blocks[i] = blocks[now.blocks];
+      return;
+    }
+  }
+}
+
+// The definition file, which ddInit opens by a path of its own.
+const char* definition_file = nullptr;
+
+}  // namespace
+
+extern "C" void* malloc(size_t size) noexcept {
+  return Enter(__libc_malloc(size), size);
+}
+
+extern "C" void* calloc(size_t count, size_t size) noexcept {
+  return Enter(__libc_calloc(count, size), count * size);
+}
+
+extern "C" void free(void* block) noexcept {
+  Leave(block);
+  __libc_free(block);
+}
+
+extern "C" FILE* fopen(const char*, const char* mode) {
+  const int descriptor = open(definition_file, O_RDONLY);
+  return descriptor < 0 ? nullptr : fdopen(descriptor, mode);
+}
+
+namespace {
+
+struct Loader {
+  const char* table;
+  int32_t (*load)(const char* file);
+};
+
+constexpr Loader kLoaders[] = {
+    {"versions", ddReadVersionInformation},
+    {"module types", ddReadAllModuleInformation},
+    {"system functions", ddReadSysSupportFuncInformation},
+    {"OLT port types", ddReadAllSupportedOltPortInformation},
+    {"main boards", ddReadAllSupportedMainBoardInformation},
+    {"service boards", ddReadAllSupportedBoardInformation},
+};
+
+void Check(int32_t code, const char* what) {
+  if (code != 0) {
+    std::fprintf(stderr, "%s: %s: code %d\n", definition_file, what, static_cast<int>(code));
+    std::exit(1);
+  }
+}
+
+void AddRow(bench::Table& table, const char* name, const Use& use) {
+  table.Row(
+      {name, std::to_string(use.blocks), std::to_string(use.asked), std::to_string(use.taken)});
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: %s FILE\n", argv[0]);
+    return 2;
+  }
+  definition_file = argv[1];
+
+  // First all together.
+  const Use before = now;
+  peak = now;
+  Check(ddInit(), "ddInit");
+  const Use of_init = now.Since(before);
+  const Use of_peak = peak.Since(before);
+
+  // Then table by table.
+  Use of_tables[std::size(kLoaders)];
+  for (size_t i = 0; i < std::size(kLoaders); ++i) {
+    const Use before_table = now;
+    Check(kLoaders[i].load(definition_file), kLoaders[i].table);
+    of_tables[i] = now.Since(before_table);
+  }
+
+  bench::Table table({"", "blocks", "bytes asked for", "bytes taken"});
+  for (size_t i = 0; i < std::size(kLoaders); ++i) {
+    AddRow(table, kLoaders[i].table, of_tables[i]);
+  }
+  AddRow(table, "after ddInit", of_init);
+  AddRow(table, "peak during ddInit", of_peak);
+  table.Print();
+  return 0;
+}
