@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "common/codes.h"
 #include "common/messages.h"
@@ -22,20 +23,39 @@ Record* FindRecord(uint32_t count, Record* const* records, Wanted wanted) {
 }
 
 // What a query checks before it looks into a table, and how it words a refusal.
+template <typename... Limit>
 struct TableCheck {
   uint32_t limit;  // of records
   int32_t above_limit_code;
   int32_t no_array_code;
 
-  Message<uint32_t> above_limit;  // the count
+  Message<uint32_t, Limit...> above_limit;  // the count, in some texts a limit behind it
   Message<uint32_t> no_array;
 };
 
-[[nodiscard]] int32_t CheckTable(const TableCheck& check, uint32_t count, const void* records);
+template <typename... Limit>
+[[nodiscard]] int32_t CheckTable(const TableCheck<Limit...>& check, uint32_t count,
+                                 const void* records, std::type_identity_t<Limit>... limit) {
+  if (count > check.limit) {
+    Report(Gate::kDebug, check.above_limit, count, limit...);
+    return check.above_limit_code;
+  }
+  if (records == nullptr) {
+    Report(Gate::kDebug, check.no_array, LowBits(records));
+    return check.no_array_code;
+  }
+  return kOk;
+}
+
+// Has the record this type, and a name that its field can hold?
+template <typename Record>
+bool HasTypeAndName(const Record& record, uint32_t type) {
+  return record.ulType == type && record.ulNameLen <= sizeof record.acName;
+}
 
 // A query for the place of a name in a table.
 struct NameQuery {
-  TableCheck table;
+  TableCheck<> table;
 
   Message<uint32_t, uint32_t, uint32_t> null_argument;  // the name and both outputs
   Message<uint32_t> name_too_long;                      // its length

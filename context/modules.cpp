@@ -65,15 +65,15 @@ int32_t ReadModule(const char* file, const char* section, ModuleInformation& mod
 template <typename... Limit>
 int32_t CheckList(const Message<uint32_t, Limit...>& corrupt, const Message<uint32_t>& missing,
                   std::type_identity_t<Limit>... limit) {
-  if (gstModuleTypeList.ulModuleTypeNum > MAX_SUPPORTED_MODULE_TYPE_NUM) {
-    Report(Gate::kDebug, corrupt, gstModuleTypeList.ulModuleTypeNum, limit...);
-    return kTooManyModules;
-  }
-  if (gstModuleTypeList.pModuleTypeArray == nullptr) {
-    Report(Gate::kDebug, missing, LowBits(gstModuleTypeList.pModuleTypeArray));
-    return kNoTable;
-  }
-  return kOk;
+  const TableCheck<Limit...> check = {
+      .limit = MAX_SUPPORTED_MODULE_TYPE_NUM,
+      .above_limit_code = kTooManyModules,
+      .no_array_code = kNoTable,
+      .above_limit = corrupt,
+      .no_array = missing,
+  };
+  return CheckTable(check, gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray,
+                    limit...);
 }
 
 // The first module that fulfils `wanted`, or null.

@@ -21,8 +21,8 @@ constexpr PortByNumberQuery kServingPortType = {
         {
             .null_output = "\r\nddGetPortTypeByBoardType err! pulPortType = 0x%x",
             .table =
-                BoardTableCheck("\r\nddGetPortTypeByBoardType err! ulSupportedBoardTypeNum = %d",
-                                "\r\nddGetPortTypeByBoardType err! pBoardTypeArray = 0x%x"),
+                BoardTableCheck<>("\r\nddGetPortTypeByBoardType err! ulSupportedBoardTypeNum = %d",
+                                  "\r\nddGetPortTypeByBoardType err! pBoardTypeArray = 0x%x"),
         },
     .count = &BoardInformation::ulTotalServePortNum,
     .ports = &BoardInformation::pPortArray,
@@ -36,12 +36,12 @@ constexpr PortByNumberQuery kServingPortType = {
         "\r\nddGetPortTypeByBoardType err! ulBoardType = %d, pstOltPortInformation = 0x%x, ulPortNo = %d",
 };
 
-// kept as is: the second message counts the serving ports.
+// kept as is: `not_on_board` shows the serving ports.
 constexpr PortByNumberQuery kSpecialPortType = {
     .board =
         {
             .null_output = "\r\nddGetSpecialPortTypeByBoardType err! pulPortType = 0x%x",
-            .table = BoardTableCheck(
+            .table = BoardTableCheck<>(
                 "\r\nddGetSpecialPortTypeByBoardType err! ulSupportedBoardTypeNum = %d",
                 "\r\nddGetSpecialPortTypeByBoardType err! pBoardTypeArray = 0x%x"),
         },
@@ -68,12 +68,12 @@ int32_t GetPortType(const PortByNumberQuery& query, const BoardInformation& boar
   OltPortInformation** const ports = board.*query.ports;
   if (ports == nullptr) {
     Report(Gate::kDebug, query.no_ports, board.ulType, LowBits(ports), number);
-    return kNoPortRecord;
+    return kNoPortOfThatNumber;
   }
   const OltPortInformation* const port = ports[number - 1];
   if (port == nullptr) {
     Report(Gate::kDebug, query.no_port, board.ulType, LowBits(port), number);
-    return kNoPortRecord;
+    return kNoPortOfThatNumber;
   }
   *type = port->ulPortType;
   return kOk;

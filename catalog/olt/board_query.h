@@ -1,8 +1,9 @@
-// What the questions about service boards share: the checks in front, and the
-// search for the board.
+// What the questions about boards share: the checks in front and, for service
+// boards, the search for the board.
 #pragma once
 
 #include <optional>
+#include <type_traits>
 
 #include "common/catalog.h"
 #include "common/codes.h"
@@ -11,9 +12,11 @@
 
 namespace sys_context {
 
-// The check of the boards' table in the words of a query.
-consteval TableCheck BoardTableCheck(const Message<uint32_t>& above_limit,
-                                     const Message<uint32_t>& no_array) {
+// The check of a table of boards, service or main, in the words of a query.
+template <typename... Limit>
+consteval TableCheck<Limit...> BoardTableCheck(
+    const std::type_identity_t<Message<uint32_t, Limit...>>& above_limit,
+    const Message<uint32_t>& no_array) {
   return {
       .limit = MAX_OLT_BOARD_TYPE_NUM,
       .above_limit_code = kTooManyBoards,
@@ -23,7 +26,7 @@ consteval TableCheck BoardTableCheck(const Message<uint32_t>& above_limit,
   };
 }
 
-inline int32_t CheckBoardTable(const TableCheck& check) {
+inline int32_t CheckBoardTable(const TableCheck<>& check) {
   return CheckTable(check, gstSupportedBoardType.ulSupportedBoardTypeNum,
                     gstSupportedBoardType.pBoardTypeArray);
 }
@@ -31,7 +34,7 @@ inline int32_t CheckBoardTable(const TableCheck& check) {
 // How a query words its refusals, and what becomes of its output.
 struct BoardQuery {
   Message<uint32_t> null_output;
-  TableCheck table;
+  TableCheck<> table;
   std::optional<Message<uint32_t>> not_found = {};  // the type
   bool not_found_clears_output = true;
 };

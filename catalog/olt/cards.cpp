@@ -53,7 +53,7 @@ int32_t ddGetCardNameByType(uint32_t ulBoardType, char* pcCardName) {
     DebugConsole("\r\nddGetCardNameByType err!, pcCardName = 0x%x", LowBits(pcCardName));
     return kNullArgument;
   }
-  // kept as is: likewise.
+  // kept as is: the second query asks the main boards once more.
   if (ddGetMainBoardNameByType(ulBoardType, pcCardName) == kOk ||
       ddGetBoardNameByType(ulBoardType, pcCardName) == kOk) {
     return kOk;

@@ -1,10 +1,8 @@
 // Questions about the main boards.
 #include <cstring>
 
-#include "common/codes.h"
-#include "common/messages.h"
+#include "catalog/olt/board_query.h"
 #include "common/names.h"
-#include "sys_context/olt.h"
 
 namespace sys_context {
 namespace {
@@ -13,32 +11,31 @@ namespace {
 // no board is found.
 struct MainBoardQuery {
   int32_t not_found_code;
-  Message<uint32_t, uint32_t> above_limit;  // the count, the limit
-  Message<uint32_t> no_array;
+  TableCheck<uint32_t> table;
   Message<uint32_t> empty_place;
 };
 
 constexpr MainBoardQuery kNameByType = {
     .not_found_code = kNoSuchBoard,
-    .above_limit =
+    .table = BoardTableCheck<uint32_t>(
         "\r\nddGetMainBoardNameByType err!, ulSupportedBoardTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d",
-    .no_array = "\r\nddGetMainBoardNameByType err!, pBoardTypeArray = 0x%x",
+        "\r\nddGetMainBoardNameByType err!, pBoardTypeArray = 0x%x"),
     .empty_place = "\r\nddGetMainBoardNameByType err!, pstMainBoardInformation = 0x%x",
 };
 
 constexpr MainBoardQuery kTypeByName = {
     .not_found_code = kNoSuchName,
-    .above_limit =
+    .table = BoardTableCheck<uint32_t>(
         "\r\nddGetMainBoardTypeByName err!, ulSupportedBoardTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d",
-    .no_array = "\r\nddGetMainBoardTypeByName err!, pBoardTypeArray = 0x%x",
+        "\r\nddGetMainBoardTypeByName err!, pBoardTypeArray = 0x%x"),
     .empty_place = "\r\nddGetMainBoardTypeByName err!, pstMainBoardInformation = 0x%x",
 };
 
 constexpr MainBoardQuery kObjByType = {
     .not_found_code = kNoSuchBoard,
-    .above_limit =
+    .table = BoardTableCheck<uint32_t>(
         "\r\nddGetMainBoardObjByType err!, ulSupportedBoardTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d",
-    .no_array = "\r\nddGetMainBoardObjByType err!, pBoardTypeArray = 0x%x",
+        "\r\nddGetMainBoardObjByType err!, pBoardTypeArray = 0x%x"),
     .empty_place = "\r\nddGetMainBoardObjByType err!, pstMainBoardInformation = 0x%x",
 };
 
@@ -47,13 +44,10 @@ template <typename Wanted>
 int32_t FindMainBoard(const MainBoardQuery& query, Wanted wanted, MainBoardInformation*& board) {
   const SupportedMainBoardType& table = gstSupportedMainBoardType;
   board = nullptr;
-  if (table.ulSupportedBoardTypeNum > MAX_OLT_BOARD_TYPE_NUM) {
-    Report(Gate::kDebug, query.above_limit, table.ulSupportedBoardTypeNum, MAX_OLT_BOARD_TYPE_NUM);
-    return kTooManyBoards;
-  }
-  if (table.pBoardTypeArray == nullptr) {
-    Report(Gate::kDebug, query.no_array, LowBits(table.pBoardTypeArray));
-    return kNoTable;
+  if (const int32_t code = CheckTable(query.table, table.ulSupportedBoardTypeNum,
+                                      table.pBoardTypeArray, MAX_OLT_BOARD_TYPE_NUM);
+      code != kOk) {
+    return code;
   }
   for (uint32_t i = 0; i < table.ulSupportedBoardTypeNum; ++i) {
     MainBoardInformation* const candidate = table.pBoardTypeArray[i];
@@ -78,7 +72,7 @@ int32_t ddGetMainBoardNameByType(uint32_t ulType, char* pcBoardName) {
   }
   MainBoardInformation* board = nullptr;
   const auto wanted = [=](const MainBoardInformation& candidate) {
-    return candidate.ulType == ulType && candidate.ulNameLen <= MAX_BOARD_NAME_LEN;
+    return HasTypeAndName(candidate, ulType);
   };
   if (const int32_t code = FindMainBoard(kNameByType, wanted, board); code != kOk) {
     return code;

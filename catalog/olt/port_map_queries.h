@@ -1,5 +1,6 @@
-// Translations in one port map, in the form that leaves it to the caller what
-// they mean.
+// Translations in one port map without the interface's limits and messages, for
+// those who have less room than the interface asks for, or take a logic port that
+// is wired to nothing for an answer.
 #pragma once
 
 #include <cstdint>

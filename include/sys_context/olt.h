@@ -391,7 +391,8 @@ SYS_CONTEXT_API int32_t ddGetPonMaxOnuNumByBoardType(uint32_t ulBoardType, uint3
  * no other codes but -2. */
 SYS_CONTEXT_API int32_t ddGetSupportedBoardMaxPonNum(uint32_t* pulSupportedBoardMaxPonNum);
 
-/* Never tells a total: gives 0 and returns -18, whatever boards there are. */
+/* Never tells a total: behind the checks, it gives 0 and returns -18 whatever boards
+ * there are. */
 SYS_CONTEXT_API int32_t ddGetBoardTotailPortAmountByType(uint32_t ulBoardType,
                                                          uint32_t* pulBoardServePortAmount);
 

@@ -1,17 +1,17 @@
 // The case converters: results, messages, and how often they yield.
 #include <cctype>
-#include <cinttypes>
 #include <clocale>
-#include <cstdio>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "support/tables.h"
+#include "support/text.h"
 #include "sys_context/cfgfile.h"
 
 namespace {
 
+using test::Hex;
 using Converter = int32_t (*)(const char*, uint32_t, char*, uint32_t);
 
 struct Member {
@@ -24,9 +24,9 @@ struct Member {
 };
 
 const Member kMembers[] = {
-    {"Upper", ddStringToUppercase, std::toupper, "\r\nddStringToUppercase, strOri = 0x",
+    {"Upper", ddStringToUppercase, std::toupper, "\r\nddStringToUppercase, strOri = ",
      "\r\nddStringToUppercase, ulOriLen = ", "\r\nddStringToUppercase, ulOriLen = "},
-    {"Lower", ddStringToLowercase, std::tolower, "\r\nddStringToLowercase, strOri = 0x",
+    {"Lower", ddStringToLowercase, std::tolower, "\r\nddStringToLowercase, strOri = ",
      "\r\nddStringToLowercase, ulOriLen = ", "\r\nddStringToLowercase, ulOriLen = "},
 };
 
@@ -36,14 +36,6 @@ std::ostream& operator<<(std::ostream& stream, const Member& member) {
 
 std::string MemberName(const testing::TestParamInfo<Member>& member) {
   return member.param.name;
-}
-
-// A pointer as messages show it: its low 32 bits.
-std::string Hex(const void* pointer) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%" PRIx32,
-                static_cast<uint32_t>(reinterpret_cast<uintptr_t>(pointer)));
-  return text;
 }
 
 class LetterCase : public test::LibraryTest, public testing::WithParamInterface<Member> {
@@ -116,7 +108,7 @@ TEST_P(LetterCase, Converts500) {
 TEST_P(LetterCase, NullSource) {
   char destination[] = "#";
   EXPECT_EQ(Refused(-2, nullptr, 1, destination, 1),
-            GetParam().null_message + std::string("0, strDst = 0x") + Hex(destination));
+            GetParam().null_message + std::string("0x0, strDst = ") + Hex(destination));
   EXPECT_STREQ(destination, "#");
 }
 
@@ -128,7 +120,7 @@ TEST_P(LetterCase, NullDestination) {
 
 TEST_P(LetterCase, NullsWinOverLengths) {
   EXPECT_EQ(Refused(-2, nullptr, 501, nullptr, 0),
-            GetParam().null_message + std::string("0, strDst = 0x0"));
+            GetParam().null_message + std::string("0x0, strDst = 0x0"));
 }
 
 TEST_P(LetterCase, LengthOf501) {

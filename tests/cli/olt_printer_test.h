@@ -2,13 +2,13 @@
 #pragma once
 
 #include <algorithm>
-#include <cstring>
 #include <deque>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "cli/printer_test.h"
+#include "support/records.h"
 
 namespace test {
 
@@ -21,18 +21,11 @@ class OltPrinterTest : public PrinterTest {
     PrinterTest::TearDown();
   }
 
-  template <size_t size>
-  static void Store(const std::string& name, char (&field)[size], uint32_t& length) {
-    ASSERT_LT(name.size(), size);
-    std::memcpy(field, name.c_str(), name.size() + 1);
-    length = static_cast<uint32_t>(name.size() + 1);
-  }
-
   // A port type; also what a board keeps of one for each of its ports.
   OltPortInformation* Port(uint32_t type, const std::string& name, uint32_t ratio) {
     OltPortInformation& port = ports_.emplace_back();
     port = {type, 0, "", ratio, 0};
-    Store(name, port.acName, port.ulNameLen);
+    StoreName(name, port.acName, port.ulNameLen);
     return &port;
   }
   void AddPortType(OltPortInformation* type) {
@@ -46,14 +39,14 @@ class OltPrinterTest : public PrinterTest {
     MainBoardInformation& board = *main_boards_.back();
     board.ulType = type;
     board.ulSwitchChipLogicPortNum = ports;
-    Store(name, board.acName, board.ulNameLen);
+    StoreName(name, board.acName, board.ulNameLen);
     return &board;
   }
   static void AddMap(MainBoardInformation& board, const std::string& name,
                      const std::vector<PortPair>& pairs) {
     ASSERT_LT(board.ulChipLogicPortToPhyPortTypeNum, 20u);
     PortMap& map = board.astPortMap[board.ulChipLogicPortToPhyPortTypeNum++];
-    Store(name, map.acBoardName, map.ulBoardNameLen);
+    StoreName(name, map.acBoardName, map.ulBoardNameLen);
     std::copy(pairs.begin(), pairs.end(), map.astPortPair);
   }
   void AddMainBoard(MainBoardInformation* board) {
@@ -68,7 +61,7 @@ class OltPrinterTest : public PrinterTest {
                           const std::vector<OltPortInformation*>& special) {
     BoardInformation& board = boards_.emplace_back();
     board.ulType = type;
-    Store(name, board.acName, board.ulNameLen);
+    StoreName(name, board.acName, board.ulNameLen);
     board.ulTotalServePortNum = static_cast<uint32_t>(serving.size());
     board.pPortArray = port_lists_.emplace_back(serving).data();
     board.ulTotalSpecialPortNum = static_cast<uint32_t>(special.size());

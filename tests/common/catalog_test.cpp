@@ -7,11 +7,13 @@
 #include <vector>
 
 #include "support/tables.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
 using sys_context::FindRecord;
+using test::Hex;
 
 // ---- A record ------------------------------------------------------------------
 
@@ -96,7 +98,7 @@ constexpr sys_context::NameQuery kQuery = {
             .above_limit = "count %d;",
             .no_array = "array %x;",
         },
-    .null_argument = "null %x %x %x;",
+    .null_argument = "null 0x%x 0x%x 0x%x;",
     .name_too_long = "long %d;",
     .corrupt_length = "length %d at %d;",
 };
@@ -158,19 +160,26 @@ TEST_F(NameSearch, StopsAtALengthThatTheFieldCannotHold) {
   EXPECT_EQ(index, 0u);
 }
 
+string NullArguments(const void* name, const void* is_supported, const void* index) {
+  return "null " + Hex(name) + " " + Hex(is_supported) + " " + Hex(index) + ";";
+}
+
 TEST_F(NameSearch, NullArgumentsTouchNothing) {
+  const char* const name = "AB";
+  const char* const no_name = nullptr;
   uint32_t is_supported = 77;
   uint32_t index = 78;
-  const char* const no_name = nullptr;
   uint32_t* const no_output = nullptr;
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
     EXPECT_EQ(AskForName(kQuery, 3, places_, no_name, &is_supported, &index), -2);
-    EXPECT_EQ(AskForName(kQuery, 3, places_, "AB", no_output, &index), -2);
-    EXPECT_EQ(AskForName(kQuery, 3, places_, "AB", &is_supported, no_output), -2);
-    EXPECT_EQ(console_.Text().empty(), debug == 0);
+    EXPECT_EQ(console_.Text(), debug != 0 ? NullArguments(nullptr, &is_supported, &index) : "");
+    EXPECT_EQ(AskForName(kQuery, 3, places_, name, no_output, &index), -2);
+    EXPECT_EQ(console_.Text(), debug != 0 ? NullArguments(name, nullptr, &index) : "");
+    EXPECT_EQ(AskForName(kQuery, 3, places_, name, &is_supported, no_output), -2);
+    EXPECT_EQ(console_.Text(), debug != 0 ? NullArguments(name, &is_supported, nullptr) : "");
     EXPECT_EQ(AskForName(kQuery, 3, places_, no_name, no_output, no_output), -2);
-    EXPECT_EQ(console_.Text(), debug != 0 ? "null 0 0 0;" : "");
+    EXPECT_EQ(console_.Text(), debug != 0 ? "null 0x0 0x0 0x0;" : "");
   }
   EXPECT_EQ(is_supported, 77u);
   EXPECT_EQ(index, 78u);

@@ -1,10 +1,10 @@
 // Asking the module list for names and types.
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "context/module_list.h"
+#include "support/records.h"
 
 namespace {
 
@@ -29,15 +29,8 @@ TEST_P(ModuleName, ByType) {
   Put(GetParam().list);
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
-    string buffer(60, '#');
-    EXPECT_EQ(ddGetModuleNameByType(GetParam().type, buffer.data()), GetParam().code);
-    // The name with its terminator, and not a byte more.
-    string expected(60, '#');
-    if (GetParam().code == 0) {
-      const string& answer = GetParam().answer;
-      std::copy_n(answer.c_str(), answer.size() + 1, expected.begin());
-    }
-    EXPECT_EQ(buffer, expected);
+    test::ExpectNameCopied(ddGetModuleNameByType, GetParam().type, GetParam().code,
+                           GetParam().answer);
     EXPECT_EQ(console_.Text(), debug != 0 ? GetParam().debug_console : "");
   }
 }

@@ -1,5 +1,4 @@
 // Reading one module from its own section.
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <ostream>
@@ -8,10 +7,12 @@
 #include "support/definition_file.h"
 #include "support/faults.h"
 #include "support/tables.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
+using test::Hex;
 
 ModuleInformation* const kUntouched = reinterpret_cast<ModuleInformation*>(0x1234);
 
@@ -150,17 +151,9 @@ class ModuleRecord : public test::LibraryTest {
   test::Console console_;
 };
 
-// The pointers of a message, as the card prints them.
 string Pointers(const void* file, const void* section, const void* address) {
-  const auto low_bits = [](const void* pointer) {
-    return static_cast<unsigned>(reinterpret_cast<uintptr_t>(pointer) & 0xffffffff);
-  };
-  char text[200];
-  std::snprintf(text, sizeof text,
-                "\r\nddReadOneModuleInformation err! strFileName = 0x%x, strModuleSection = 0x%x, "
-                "pModuleObjAddr = 0x%x",
-                low_bits(file), low_bits(section), low_bits(address));
-  return text;
+  return "\r\nddReadOneModuleInformation err! strFileName = " + Hex(file) +
+         ", strModuleSection = " + Hex(section) + ", pModuleObjAddr = " + Hex(address);
 }
 
 TEST_F(ModuleRecord, NullArgumentsTouchNothing) {

@@ -5,6 +5,7 @@
 
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/rows.h"
 #include "support/tables.h"
 
 namespace {
@@ -60,11 +61,6 @@ void LoadModules::ExpectRecords(const test::Faults& faults) {
   const std::vector<Module>& records = GetParam().records;
   ASSERT_EQ(gstModuleTypeList.ulModuleTypeNum, records.size());
   ModuleInformation** const slots = gstModuleTypeList.pModuleTypeArray;
-  if (GetParam().announced == 0) {
-    EXPECT_EQ(slots, nullptr);
-    EXPECT_EQ(faults.blocks.size(), 0u);
-    return;
-  }
   ASSERT_NE(slots, nullptr);
   EXPECT_EQ(faults.blocks.at(slots), GetParam().announced * sizeof(ModuleInformation*));
   for (size_t i = 0; i < GetParam().announced; ++i) {
@@ -120,10 +116,6 @@ const LoadRow kLoads[] = {
      kS3 + kS2 + Three(kS1),
      3,
      {{1, "N1", 10}, {2, "N2", 20}, {3, "N3", 30}}},
-    {"NoneAnnounced", "[ModuleTypeList]\nModuleNum=0\nModule1=S1\n" + kS1, 0, {}},
-    {"EmptyNumber", "[ModuleTypeList]\nModuleNum=\nModule1=S1\n" + kS1, 0, {}},
-    {"NumberIsText", "[ModuleTypeList]\nModuleNum=many\nModule1=S1\n" + kS1, 0, {}},
-    {"NumberIsHexadecimal", "[ModuleTypeList]\nModuleNum=0x1\nModule1=S1\n" + kS1, 0, {}},
     {"NumberWithText", "[ModuleTypeList]\nModuleNum= +1x\nModule1=S1\n" + kS1, 1, {{1, "N1", 10}}},
     {"MoreListedThanAnnounced",
      "[ModuleTypeList]\nModuleNum=1\nModule1=S1\nModule2=S2\n" + kS1 + kS2,
@@ -259,15 +251,6 @@ TEST_F(Modules, MissingFile) {
   EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, 0u);
 }
 
-TEST_F(Modules, NoneAnnouncedLeavesNoList) {
-  const test::DefinitionFile file("[ModuleTypeList]\nModuleNum=0\n");
-  gstModuleTypeList = {9, reinterpret_cast<ModuleInformation**>(uintptr_t{0x1230})};
-  EXPECT_EQ(ddReadAllModuleInformation(file.path()), 0);
-  EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, 0u);
-  EXPECT_EQ(gstModuleTypeList.pModuleTypeArray, nullptr);
-  gstModuleTypeList = {};
-}
-
 TEST_F(Modules, NullPath) {
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
@@ -277,5 +260,25 @@ TEST_F(Modules, NullPath) {
     EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, 0u);
   }
 }
+
+class LoadNoModules : public Modules, public testing::WithParamInterface<test::ZeroRow> {};
+
+TEST_P(LoadNoModules, LeavesNoList) {
+  const test::DefinitionFile file(Announce(GetParam().text));
+  for (const int32_t debug : {0, 1}) {
+    ddDebugPrint = debug;
+    gstModuleTypeList = {9, reinterpret_cast<ModuleInformation**>(uintptr_t{0x1230})};
+    test::Faults faults;
+    EXPECT_EQ(ddReadAllModuleInformation(file.path()), 0);
+    EXPECT_EQ(gstModuleTypeList.ulModuleTypeNum, 0u);
+    EXPECT_EQ(gstModuleTypeList.pModuleTypeArray, nullptr);
+    gstModuleTypeList = {};
+    EXPECT_EQ(console_.Text(), "");
+    EXPECT_TRUE(faults.blocks.empty());
+    EXPECT_EQ(faults.closes, faults.opens.count());
+  }
+}
+INSTANTIATE_TEST_SUITE_P(Modules, LoadNoModules, testing::ValuesIn(test::kZeros),
+                         testing::PrintToStringParamName());
 
 }  // namespace

@@ -2,9 +2,12 @@
 // and for ever.
 #include <string>
 
+#include "context/device_file.h"
+#include "context/start_outcome.h"
 #include "context/startup_lookups.h"
 #include "support/leaks.h"
 #include "support/tables.h"
+#include "support/text.h"
 
 namespace {
 
@@ -40,10 +43,7 @@ class StartupFaults : public test::LibraryTest {
       expected =
           lookup.once.code != 0 ? lookup.debug_console + expected : expected + lookup.debug_console;
     }
-    if (const size_t place = expected.find('%'); place != string::npos) {
-      expected.replace(place, 1, code);
-    }
-    EXPECT_EQ(console_.Text(), expected);
+    EXPECT_EQ(console_.Text(), test::With(expected, "%", code));
   }
 
   test::Console console_;

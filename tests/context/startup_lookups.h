@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "context/device_file.h"
+#include "context/start_outcome.h"
 
 namespace test {
 

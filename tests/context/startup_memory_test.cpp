@@ -2,6 +2,7 @@
 #include <string>
 
 #include "context/device_file.h"
+#include "context/start_outcome.h"
 #include "support/leaks.h"
 #include "support/tables.h"
 

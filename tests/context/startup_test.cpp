@@ -9,6 +9,7 @@
 #include "context/device_file.h"
 #include "support/leaks.h"
 #include "support/tables.h"
+#include "sys_context/olt.h"
 
 namespace {
 

@@ -13,7 +13,8 @@ std::set<void*> LostBlocks(const Faults& faults);
 // The library keeps exactly the blocks that its tables lead to.
 void ExpectNoLeak(const Faults& faults);
 
-// Expects that many lost blocks, which are prescribed, and releases them.
+// Expects that the library loses that many blocks, which is kept as it is, and
+// releases them.
 void ExpectAndReleaseLost(Faults& faults, size_t lost);
 
 }  // namespace test

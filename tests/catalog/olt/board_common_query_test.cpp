@@ -11,9 +11,9 @@
 namespace {
 
 using std::string;
-using test::Board;
 using test::kNull;
 using test::kUntouched;
+using test::PlacedBoard;
 
 // All that the queries write to.
 struct Output {
@@ -157,15 +157,15 @@ const Query kQueries[] = {
      .answer = {.number = 2}},
 };
 
-const Board kBoard7 = {7, "PLBD", {{1, 1, 2}}, {{3}}};
-const Board kOther = {9, "OTHER", {{4}}, {{5, 3}}};
+const PlacedBoard kBoard7 = {7, "PLBD", {{1, 1, 2}}, {{3}}};
+const PlacedBoard kOther = {9, "OTHER", {{4}}, {{5, 3}}};
 
 class BoardQuery : public test::BoardTablesTest, public testing::WithParamInterface<Query> {
  protected:
   void SetUp() override {
     BoardTablesTest::SetUp();
     PutMainBoards({});  // some queries ask them first
-    PutPortTypes({.places = {test::PortType{1, 64}}});
+    PutPortTypes({.places = {test::PlacedPortType{1, 64}}});
   }
 
   void Expect(int32_t code, const Output& expected, const string& text) {
@@ -239,7 +239,7 @@ TEST_P(BoardQuery, NoBoards) {
 }
 
 TEST_P(BoardQuery, OtherBoards) {
-  PutBoards({.places = {kOther, Board{8, "PLB"}, Board{0, "PLBD1"}}});
+  PutBoards({.places = {kOther, PlacedBoard{8, "PLB"}, PlacedBoard{0, "PLBD1"}}});
   ExpectNotFound();
 }
 
@@ -264,12 +264,12 @@ TEST_P(BoardQuery, BehindAnEmptyPlace) {
 }
 
 TEST_P(BoardQuery, FirstOfThatTypeAndName) {
-  PutBoards({.places = {kOther, kBoard7, Board{7, "SECOND"}, Board{8, "PLBD"}}});
+  PutBoards({.places = {kOther, kBoard7, PlacedBoard{7, "SECOND"}, PlacedBoard{8, "PLBD"}}});
   ExpectAnswer(1);
 }
 
 TEST_P(BoardQuery, LastOfAFullTable) {
-  test::Boards boards = {.places = {99, kOther}};
+  test::PlacedBoards boards = {.places = {99, kOther}};
   boards.places.push_back(kBoard7);
   PutBoards(boards);
   ExpectAnswer(99);
@@ -285,8 +285,9 @@ class WideTypes : public test::BoardTablesTest {
   // Two boards, and two port types, that differ in their upper bits only.
   void SetUp() override {
     test::BoardTablesTest::SetUp();
-    PutBoards({.places = {Board{0x80010007, "WIDE", {{5, 0x10005, 5}}, {{0x10006, 6, 0x10006}}},
-                          Board{0x10007, "MIDDLE", {{1, 1}}}, Board{7, "NARROW", {{2}}}}});
+    PutBoards(
+        {.places = {PlacedBoard{0x80010007, "WIDE", {{5, 0x10005, 5}}, {{0x10006, 6, 0x10006}}},
+                    PlacedBoard{0x10007, "MIDDLE", {{1, 1}}}, PlacedBoard{7, "NARROW", {{2}}}}});
   }
 };
 

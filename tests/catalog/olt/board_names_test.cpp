@@ -1,79 +1,25 @@
 // Asking for the names and the types of boards.
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "catalog/olt/board_tables.h"
+#include "catalog/olt/name_tables.h"
 
 namespace {
 
+using namespace test;  // for its tables, rows and texts
 using std::string;
-using test::Board;
-using test::Boards;
-using test::kNull;
-using test::kUntouched;
-
-const string k59(59, 'n');
-const string k60(60, 'n');
-
-// Tables that the queries refuse.
-const Boards kNoArray = {.has_array = false};
-const Boards kNoArrayButCount = {.has_array = false, .count = 100};
-const Boards kCorrupt = {.places = {Board{1, "CTLA"}, Board{7, "PLBD"}}, .count = 101};
-const Boards kCorruptNoArray = {.has_array = false, .count = 101};
-const Boards kCorruptMost = {.places = {Board{1, "CTLA"}, Board{7, "PLBD"}}, .count = 0xffffffff};
-
-// Tables that they look into. Name lengths of 61 are corrupt.
-const Boards kMain = {.places = {Board{1, "CTLA"}, Board{2, "CTLB"}, Board{1, "CTLC"},
-                                 Board{3, "BOTH"}, Board{6, k60}, Board{5, k60}, Board{5, "FIVE"},
-                                 Board{4, "CTLA"}}};
-const Boards kMainWithHole = {.places = {kNull, Board{1, "CTLA"}, kNull}};
-const Boards kService = {
-    .places = {Board{7, "PLBD"}, kNull, Board{8, "plbd"}, Board{1, "ONE"}, Board{7, "SECOND"},
-               Board{9, k60}, Board{9, "NINE"}, Board{10, k59}, Board{11, k60}, Board{0, "ZERO"},
-               Board{0xffffffff, ""}, Board{6, "SIX"}, Board{12, "BOTH"}, Board{13, "PLBD"},
-               Board{14, "PLBDE"}, Board{15, "SHORT", {}, {}, 3}}};
 
 // ---- Name by type -------------------------------------------------------------------
 
-struct NameRow {
-  const char* name;
-  Boards main;
-  Boards boards;
-  uint32_t type;
-  int32_t code;
-  string answer = "";
-  string text = "";
-  friend std::ostream& operator<<(std::ostream& out, const NameRow& row) { return out << row.name; }
-};
-
-class BoardName : public test::BoardTablesTest, public testing::WithParamInterface<NameRow> {};
+class BoardName : public NameByTypeTest {};
 
 TEST_P(BoardName, ByType) {
-  PutMainBoards(GetParam().main);
-  PutBoards(GetParam().boards);
-  AskTwice(GetParam().text, [] {
-    string buffer(60, '#');
-    EXPECT_EQ(ddGetBoardNameByType(GetParam().type, buffer.data()), GetParam().code);
-    // The name with its terminator, and not a byte more.
-    string expected(60, '#');
-    if (GetParam().code == 0) {
-      const string& answer = GetParam().answer;
-      std::copy_n(answer.c_str(), answer.size() + 1, expected.begin());
-    }
-    EXPECT_EQ(buffer, expected);
-  });
+  Expect(ddGetBoardNameByType);
 }
 
-constexpr char kNoMainForName[] = "\r\nddGetMainBoardNameByType err!, pBoardTypeArray = 0x0";
-constexpr char kHoleForName[] = "\r\nddGetMainBoardNameByType err!, pstMainBoardInformation = 0x0";
-constexpr char kCorruptMainForName[] =
-    "\r\nddGetMainBoardNameByType err!, ulSupportedBoardTypeNum = 101, MAX_OLT_BOARD_TYPE_NUM = 100";
 constexpr char kMostMainForName[] =
     "\r\nddGetMainBoardNameByType err!, ulSupportedBoardTypeNum = -1, MAX_OLT_BOARD_TYPE_NUM = 100";
-constexpr char kNoBoardsForName[] = "\r\nddGetBoardNameByType err! pBoardTypeArray = 0x0";
-constexpr char kCorruptForName[] = "\r\nddGetBoardNameByType err! ulSupportedBoardTypeNum = 101";
 
 const NameRow kNames[] = {
     {"MainBoard", kMain, kService, 2, 0, "CTLB"},
@@ -89,7 +35,7 @@ const NameRow kNames[] = {
     {"CorruptNameOnly", kMain, kService, 11, -18},
     {"LargestNameLength",
      kMain,
-     {.places = {Board{7, "PLBD", {}, {}, 0xffffffff}, Board{7, "G2"}}},
+     {.places = {PlacedBoard{7, "PLBD", {}, {}, 0xffffffff}, PlacedBoard{7, "G2"}}},
      7,
      0,
      "G2"},
@@ -99,8 +45,7 @@ const NameRow kNames[] = {
     {"CorruptMainBoards", kCorrupt, kService, 1, 0, "ONE", kCorruptMainForName},
     {"CorruptMainBoardsAndUnknown", kCorruptMost, kService, 77, -18, "", kMostMainForName},
     {"MainBoardBehindAHole", kMainWithHole, kService, 1, 0, "CTLA", kHoleForName},
-    {"ServiceBoardAndHoles", kMainWithHole, kService, 7, 0, "PLBD",
-     kHoleForName + string(kHoleForName)},
+    {"ServiceBoardAndHoles", kMainWithHole, kService, 7, 0, "PLBD", kHoleForName + kHoleForName},
     {"MainBoardWithoutServiceBoards", kMain, kNoArray, 1, 0, "CTLA"},
     {"MainBoardAndCorruptServiceBoards", kMain, kCorrupt, 1, 0, "CTLA"},
     {"NoServiceBoards", kMain, kNoArray, 7, -10, "", kNoBoardsForName},
@@ -109,18 +54,17 @@ const NameRow kNames[] = {
     {"CorruptServiceBoardsWithoutArray", kMain, kCorruptNoArray, 7, -19, "", kCorruptForName},
     {"CorruptMostServiceBoards", kMain, kCorruptMost, 7, -19, "",
      "\r\nddGetBoardNameByType err! ulSupportedBoardTypeNum = -1"},
-    {"NoTables", kNoArray, kNoArray, 7, -10, "", kNoMainForName + string(kNoBoardsForName)},
-    {"CorruptTables", kCorrupt, kCorrupt, 7, -19, "",
-     kCorruptMainForName + string(kCorruptForName)},
+    {"NoTables", kNoArray, kNoArray, 7, -10, "", kNoMainForName + kNoBoardsForName},
+    {"CorruptTables", kCorrupt, kCorrupt, 7, -19, "", kCorruptMainForName + kCorruptForName},
     {"NoMainAndCorruptServiceBoards", kNoArray, kCorrupt, 7, -19, "",
-     kNoMainForName + string(kCorruptForName)},
+     kNoMainForName + kCorruptForName},
     {"CorruptMainAndNoServiceBoards", kCorrupt, kNoArray, 7, -10, "",
-     kCorruptMainForName + string(kNoBoardsForName)},
+     kCorruptMainForName + kNoBoardsForName},
 };
 INSTANTIATE_TEST_SUITE_P(Boards, BoardName, testing::ValuesIn(kNames),
                          testing::PrintToStringParamName());
 
-using BoardNames = test::BoardTablesTest;
+using BoardNames = BoardTablesTest;
 
 TEST_F(BoardNames, NullBufferForAMainBoard) {
   PutMainBoards(kMain);
@@ -128,14 +72,16 @@ TEST_F(BoardNames, NullBufferForAMainBoard) {
            [] { EXPECT_EQ(ddGetBoardNameByType(1, nullptr), -2); });
 }
 
-using BoardNames = test::BoardTablesTest;
-
 TEST_F(BoardNames, AsMuchOfTheNameIsGivenAsItsLengthTells) {
-  for (const uint32_t length : {0u, 3u, 5u, 60u}) {
-    test::ResetTables();
-    PutBoards({.places = {Board{.type = 7, .name = "PLBD", .name_length = length}}});
+  const uint32_t lengths[] = {0, 3, 5, 60};  // and the types of their boards
+  PlacedBoards boards;
+  for (const uint32_t length : lengths) {
+    boards.places.push_back(PlacedBoard{.type = length, .name = "PLBD", .name_length = length});
+  }
+  PutBoards(boards);
+  for (const uint32_t length : lengths) {
     string buffer(61, '#');
-    EXPECT_EQ(ddGetBoardNameByType(7, buffer.data()), 0);
+    EXPECT_EQ(ddGetBoardNameByType(length, buffer.data()), 0);
     string expected("PLBD", length < 5 ? length : 4);
     expected.resize(length);
     expected.resize(61, '#');
@@ -145,40 +91,14 @@ TEST_F(BoardNames, AsMuchOfTheNameIsGivenAsItsLengthTells) {
 
 // ---- Type by name -------------------------------------------------------------------
 
-struct TypeRow {
-  const char* name;
-  Boards main;
-  Boards boards;
-  string asked;
-  int32_t code;
-  uint32_t answer = kUntouched;
-  string text = "";
-  friend std::ostream& operator<<(std::ostream& out, const TypeRow& row) { return out << row.name; }
-};
-
-class BoardType : public test::BoardTablesTest, public testing::WithParamInterface<TypeRow> {};
+class BoardType : public TypeByNameTest {};
 
 TEST_P(BoardType, ByName) {
-  PutMainBoards(GetParam().main);
-  PutBoards(GetParam().boards);
-  // Without a byte to spare, so that a look behind its end is noticed.
-  const string& text = GetParam().asked;
-  const std::vector<char> asked(text.c_str(), text.c_str() + text.size() + 1);
-  AskTwice(GetParam().text, [&] {
-    uint32_t type = kUntouched;
-    EXPECT_EQ(ddGetBoardTypeByName(asked.data(), &type), GetParam().code);
-    EXPECT_EQ(type, GetParam().answer);
-  });
+  Expect(ddGetBoardTypeByName);
 }
 
-constexpr char kNoMainForType[] = "\r\nddGetMainBoardTypeByName err!, pBoardTypeArray = 0x0";
-constexpr char kHoleForType[] = "\r\nddGetMainBoardTypeByName err!, pstMainBoardInformation = 0x0";
-constexpr char kCorruptMainForType[] =
-    "\r\nddGetMainBoardTypeByName err!, ulSupportedBoardTypeNum = 101, MAX_OLT_BOARD_TYPE_NUM = 100";
 constexpr char kMostMainForType[] =
     "\r\nddGetMainBoardTypeByName err!, ulSupportedBoardTypeNum = -1, MAX_OLT_BOARD_TYPE_NUM = 100";
-constexpr char kNoBoardsForType[] = "\r\nddGetBoardTypeByName err! pBoardTypeArray = 0x0";
-constexpr char kCorruptForType[] = "\r\nddGetBoardTypeByName err! ulSupportedBoardTypeNum = 101";
 
 const TypeRow kTypes[] = {
     {"MainBoard", kMain, kService, "CTLB", 0, 2},
@@ -197,15 +117,14 @@ const TypeRow kTypes[] = {
     {"StartOfAName", kMain, kService, "PLB", -32},
     {"NoCaseOfAName", kMain, kService, "Plbd", -32},
     {"BlankAtTheEnd", kMain, kService, "PLBD ", -32},
-    {"VeryLong", kMain, kService, string(2000, 'n'), -32},
+    {"VeryLong", kMain, kService, string(2000, 'N'), -32},
     {"NoMainBoards", kNoArray, kService, "PLBD", 0, 7, kNoMainForType},
     {"NoMainBoardsAndUnknown", kNoArrayButCount, kService, "NONE", -32, kUntouched, kNoMainForType},
     {"CorruptMainBoards", kCorrupt, kService, "BOTH", 0, 12, kCorruptMainForType},
     {"CorruptMainBoardsAndUnknown", kCorruptMost, kService, "CTLA", -32, kUntouched,
      kMostMainForType},
     {"MainBoardBehindAHole", kMainWithHole, kService, "CTLA", 0, 1, kHoleForType},
-    {"ServiceBoardAndHoles", kMainWithHole, kService, "PLBD", 0, 7,
-     kHoleForType + string(kHoleForType)},
+    {"ServiceBoardAndHoles", kMainWithHole, kService, "PLBD", 0, 7, kHoleForType + kHoleForType},
     {"MainBoardWithoutServiceBoards", kMain, kNoArray, "CTLB", 0, 2},
     {"MainBoardAndCorruptServiceBoards", kMain, kCorrupt, "CTLB", 0, 2},
     {"NoServiceBoards", kMain, kNoArray, "PLBD", -10, kUntouched, kNoBoardsForType},
@@ -216,10 +135,9 @@ const TypeRow kTypes[] = {
      kCorruptForType},
     {"CorruptMostServiceBoards", kMain, kCorruptMost, "PLBD", -19, kUntouched,
      "\r\nddGetBoardTypeByName err! ulSupportedBoardTypeNum = -1"},
-    {"NoTables", kNoArray, kNoArray, "PLBD", -10, kUntouched,
-     kNoMainForType + string(kNoBoardsForType)},
+    {"NoTables", kNoArray, kNoArray, "PLBD", -10, kUntouched, kNoMainForType + kNoBoardsForType},
     {"CorruptTables", kCorrupt, kCorrupt, "PLBD", -19, kUntouched,
-     kCorruptMainForType + string(kCorruptForType)},
+     kCorruptMainForType + kCorruptForType},
 };
 INSTANTIATE_TEST_SUITE_P(Boards, BoardType, testing::ValuesIn(kTypes),
                          testing::PrintToStringParamName());
@@ -244,7 +162,7 @@ TEST_F(BoardNames, TypeWithoutANameOrAResult) {
 
 struct SupportedRow {
   const char* name;
-  Boards boards;
+  PlacedBoards boards;
   string asked;
   int32_t code;
   uint32_t supported = 0;
@@ -255,11 +173,10 @@ struct SupportedRow {
   }
 };
 
-class BoardSupported : public test::BoardTablesTest,
-                       public testing::WithParamInterface<SupportedRow> {};
+class BoardSupported : public BoardTablesTest, public testing::WithParamInterface<SupportedRow> {};
 
 TEST_P(BoardSupported, ByName) {
-  PutMainBoards({.places = {Board{1, "CTLA"}}});  // not asked
+  PutMainBoards({.places = {PlacedBoard{1, "CTLA"}}});  // not asked
   PutBoards(GetParam().boards);
   const string& text = GetParam().asked;
   const std::vector<char> asked(text.c_str(), text.c_str() + text.size() + 1);
@@ -272,11 +189,12 @@ TEST_P(BoardSupported, ByName) {
   });
 }
 
-const Boards kSound = {.places = {Board{7, "PLBD"}, kNull, Board{8, "plbd"}, Board{9, "PLBD"},
-                                  Board{10, k59}, Board{11, ""}, Board{12, "PLBDE"},
-                                  Board{13, "SHORT", {}, {}, 3}}};
-const Boards kCorruptName = {
-    .places = {Board{7, "PLBD"}, kNull, Board{8, k60}, Board{9, "BEHIND"}}};
+const PlacedBoards kSound = {.places = {PlacedBoard{7, "PLBD"}, kNull, PlacedBoard{8, "plbd"},
+                                        PlacedBoard{9, "PLBD"}, PlacedBoard{10, k59},
+                                        PlacedBoard{11, ""}, PlacedBoard{12, "PLBDE"},
+                                        PlacedBoard{13, "SHORT", {}, {}, 3}}};
+const PlacedBoards kCorruptName = {
+    .places = {PlacedBoard{7, "PLBD"}, kNull, PlacedBoard{8, k60}, PlacedBoard{9, "BEHIND"}}};
 
 const SupportedRow kSupported[] = {
     {"FirstOfTwo", kSound, "PLBD", 0, 1, 0},
@@ -291,10 +209,10 @@ const SupportedRow kSupported[] = {
     {"MoreThanAName", kSound, "PLBDEF", -32},
     {"NoCaseOfAName", kSound, "Plbd", -32},
     {"BlankAtTheEnd", kSound, "PLBD ", -32},
-    {"ShorterThanTheLongest", kSound, string(58, 'n'), -32},
+    {"ShorterThanTheLongest", kSound, string(58, 'N'), -32},
     {"TooLong", kSound, k60, -33, 0, 0,
      "\r\nddIsBoardTypeSupportedByName err! strlen(strBoardTypeSection) = 60"},
-    {"MuchTooLong", kSound, string(2000, 'n'), -33, 0, 0,
+    {"MuchTooLong", kSound, string(2000, 'N'), -33, 0, 0,
      "\r\nddIsBoardTypeSupportedByName err! strlen(strBoardTypeSection) = 2000"},
     {"TooLongIsFoundBeforeTheCorruptCount", kCorruptNoArray, k60, -33, 0, 0,
      "\r\nddIsBoardTypeSupportedByName err! strlen(strBoardTypeSection) = 60"},
@@ -306,7 +224,7 @@ const SupportedRow kSupported[] = {
     {"UnknownAndACorruptName", kCorruptName, "NONE", -33, 0, 0,
      "\r\nddIsBoardTypeSupportedByName err! ulNameLen = 61, ulSupportedBoardTypeNumIndex = 2"},
     {"LargestNameLength",
-     {.places = {Board{7, "PLBD", {}, {}, 0xffffffff}}},
+     {.places = {PlacedBoard{7, "PLBD", {}, {}, 0xffffffff}}},
      "PLBD",
      -33,
      0,

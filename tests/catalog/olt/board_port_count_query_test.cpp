@@ -7,9 +7,9 @@
 namespace {
 
 using std::string;
-using test::Board;
 using test::kNull;
 using test::kUntouched;
+using test::PlacedBoard;
 using test::Ports;
 using test::PortsOfTypes1To;
 
@@ -18,9 +18,10 @@ using test::PortsOfTypes1To;
 using BoardPortCount = test::BoardTablesTest;
 
 TEST_F(BoardPortCount, ServingPortsAsStored) {
-  PutBoards({.places = {Board{1, "NONE", {}, {{9}}}, Board{2, "FULL", PortsOfTypes1To(128)},
-                        Board{3, "ABOVE", {{1}, 129}}, Board{4, "MOST", {{}, 0xffffffff}},
-                        Board{0, "ZERO", {{kNull, 2}}}, Board{0xffffffff, "LARGEST", {{1}}}}});
+  PutBoards({.places = {
+                 PlacedBoard{1, "NONE", {}, {{9}}}, PlacedBoard{2, "FULL", PortsOfTypes1To(128)},
+                 PlacedBoard{3, "ABOVE", {{1}, 129}}, PlacedBoard{4, "MOST", {{}, 0xffffffff}},
+                 PlacedBoard{0, "ZERO", {{kNull, 2}}}, PlacedBoard{0xffffffff, "LARGEST", {{1}}}}});
   const std::pair<uint32_t, uint32_t> kAmounts[] = {{1, 0},          {2, 128}, {3, 129},
                                                     {4, 0xffffffff}, {0, 2},   {0xffffffff, 1}};
   for (const auto& [type, expected] : kAmounts) {
@@ -33,8 +34,8 @@ TEST_F(BoardPortCount, ServingPortsAsStored) {
 }
 
 TEST_F(BoardPortCount, NoTotalOfAnyBoard) {
-  PutBoards({.places = {Board{1, "A", {{1, 2}}, {{3}}}, kNull, Board{1, "B", {{1}}},
-                        Board{2, "C", {{}, 0xffffffff}, {{}, 0xffffffff}}}});
+  PutBoards({.places = {PlacedBoard{1, "A", {{1, 2}}, {{3}}}, kNull, PlacedBoard{1, "B", {{1}}},
+                        PlacedBoard{2, "C", {{}, 0xffffffff}, {{}, 0xffffffff}}}});
   for (const uint32_t type : {0u, 1u, 2u, 3u, 0xffffffffu}) {
     AskTwice("", [=] {
       uint32_t amount = kUntouched;
@@ -62,7 +63,7 @@ class BoardSpecialPorts : public test::BoardTablesTest,
                           public testing::WithParamInterface<SpecialRow> {};
 
 TEST_P(BoardSpecialPorts, OfOneType) {
-  PutBoards({.places = {Board{7, "PLBD", {{5, 5, 5, 5}}, GetParam().special}}});
+  PutBoards({.places = {PlacedBoard{7, "PLBD", {{5, 5, 5, 5}}, GetParam().special}}});
   AskTwice(GetParam().text, [] {
     uint32_t number = kUntouched;
     EXPECT_EQ(ddGetBoardSpecialPortNumByType(7, GetParam().port_type, &number), GetParam().code);
@@ -124,7 +125,7 @@ class BoardTotalSpecialPorts : public test::BoardTablesTest,
                                public testing::WithParamInterface<TotalRow> {};
 
 TEST_P(BoardTotalSpecialPorts, AsStored) {
-  PutBoards({.places = {Board{7, "PLBD", {{5, 5, 5, 5}}, GetParam().special}}});
+  PutBoards({.places = {PlacedBoard{7, "PLBD", {{5, 5, 5, 5}}, GetParam().special}}});
   AskTwice(GetParam().text, [] {
     uint32_t number = kUntouched;
     EXPECT_EQ(ddGetBoardTotalSpecialPortNum(7, &number), GetParam().code);

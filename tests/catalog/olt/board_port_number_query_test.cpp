@@ -2,19 +2,48 @@
 // serve.
 #include <ostream>
 #include <string>
+#include <tuple>
 
 #include "catalog/olt/board_tables.h"
+#include "support/rows.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
-using test::Board;
 using test::kNull;
 using test::kUntouched;
+using test::PlacedBoard;
 using test::Ports;
 using test::PortsOfTypes1To;
+using test::With;
 
 // ---- Port types -------------------------------------------------------------------
+
+// A kind of port. Rows for both have "{f}" and so on in their texts.
+struct Kind {
+  const char* name;
+  int32_t (*ask)(uint32_t, uint32_t, uint32_t*);
+  Ports PlacedBoard::*ports;
+  Ports PlacedBoard::*other_ports;
+  const char* function;
+  const char* port;
+  const char* array;
+  friend std::ostream& operator<<(std::ostream& out, const Kind& kind) { return out << kind.name; }
+};
+
+const Kind kKinds[] = {
+    {"Serving", ddGetPortTypeByBoardType, &PlacedBoard::serving, &PlacedBoard::special,
+     "ddGetPortTypeByBoardType", "ulPortNo", "pServePortArray"},
+    {"Special", ddGetSpecialPortTypeByBoardType, &PlacedBoard::special, &PlacedBoard::serving,
+     "ddGetSpecialPortTypeByBoardType", "ulSpcPortNo", "pSpecialPortArray"},
+};
+
+string Of(const Kind& kind, string text) {
+  text = With(text, "{f}", kind.function);
+  text = With(text, "{port}", kind.port);
+  return With(text, "{array}", kind.array);
+}
 
 struct PortRow {
   const char* name;
@@ -27,41 +56,42 @@ struct PortRow {
   friend std::ostream& operator<<(std::ostream& out, const PortRow& row) { return out << row.name; }
 };
 
-class BoardPort : public test::BoardTablesTest, public testing::WithParamInterface<PortRow> {
- protected:
-  void Expect(int32_t (*ask)(uint32_t, uint32_t, uint32_t*)) {
-    AskTwice(GetParam().text, [=] {
-      uint32_t type = kUntouched;
-      EXPECT_EQ(ask(GetParam().board_type, GetParam().port, &type), GetParam().code);
-      EXPECT_EQ(type, GetParam().answer);
-    });
-  }
-};
+class BoardPort : public test::BoardTablesTest,
+                  public testing::WithParamInterface<std::tuple<Kind, PortRow>> {};
 
 // The ports of the other kind must not matter.
 const Ports kOtherPorts = {{91, 92}};
 
-class BoardServingPort : public BoardPort {};
-
-TEST_P(BoardServingPort, Type) {
-  PutBoards({.places = {Board{7, "PLBD", GetParam().ports, kOtherPorts}}});
-  Expect(ddGetPortTypeByBoardType);
+TEST_P(BoardPort, Type) {
+  const Kind& kind = std::get<0>(GetParam());
+  const PortRow& row = std::get<1>(GetParam());
+  PlacedBoard board = {7, "PLBD"};
+  board.*kind.ports = row.ports;
+  board.*kind.other_ports = kOtherPorts;
+  PutBoards({.places = {board}});
+  // Of the ports of both kinds it is the number of serving ones that is shown.
+  const uint32_t serving = gstSupportedBoardType.pBoardTypeArray[0]->ulTotalServePortNum;
+  const string count = std::to_string(static_cast<int32_t>(serving));
+  AskTwice(With(Of(kind, row.text), "{serving}", count), [&] {
+    uint32_t type = kUntouched;
+    EXPECT_EQ(kind.ask(row.board_type, row.port, &type), row.code);
+    EXPECT_EQ(type, row.answer);
+  });
 }
 
-string NoServingPort(const string& port) {
-  return "\r\nddGetPortTypeByBoardType err! ulPortNo = " + port +
-         ", MAX_OLT_PORT_NUM_PER_BOARD = 128";
+string NoPort(const string& port) {
+  return "\r\n{f} err! {port} = " + port + ", MAX_OLT_PORT_NUM_PER_BOARD = 128";
 }
 
-string NotAmongServing(const string& port, const string& count) {
-  return "\r\nddGetPortTypeByBoardType err! ulPortNo = " + port +
-         ", ulTotalServePortNum = " + count + ", MAX_OLT_PORT_NUM_PER_BOARD = 128";
+string NotAmong(const string& port) {
+  return "\r\n{f} err! ulPortNo = " + port +
+         ", ulTotalServePortNum = {serving}, MAX_OLT_PORT_NUM_PER_BOARD = 128";
 }
 
 const Ports kFour = {{11, 12, 0, 0xffffffff}};
 const Ports kHoles = {{kNull, 12, kNull, 14}};
 
-const PortRow kServing[] = {
+const PortRow kPorts[] = {
     {"First", kFour, 1, 0, 11},
     {"Second", kFour, 2, 0, 12},
     {"TypeZero", kFour, 3, 0, 0},
@@ -69,121 +99,48 @@ const PortRow kServing[] = {
     {"LastPossible", PortsOfTypes1To(128), 128, 0, 128},
     {"FirstOfAFullBoard", PortsOfTypes1To(128), 1, 0, 1},
     {"BesideEmptyPlaces", kHoles, 4, 0, 14},
-    {"PortZero", kFour, 0, -13, kUntouched, NoServingPort("0")},
-    {"PortZeroOfNoBoard", kFour, 0, -13, kUntouched, NoServingPort("0"), 9},
-    {"PortAboveAllBoards", kFour, 129, -13, kUntouched, NoServingPort("129")},
-    {"PortAboveAllBoardsOfNoBoard", kFour, 129, -13, kUntouched, NoServingPort("129"), 9},
-    {"LargestPort", kFour, 0xffffffff, -13, kUntouched, NoServingPort("-1")},
-    {"PortAboveTheCorruptBoard", PortsOfTypes1To(129), 129, -13, kUntouched, NoServingPort("129")},
+    {"PortZero", kFour, 0, -13, kUntouched, NoPort("0")},
+    {"PortZeroOfNoBoard", kFour, 0, -13, kUntouched, NoPort("0"), 9},
+    {"PortAboveAllBoards", kFour, 129, -13, kUntouched, NoPort("129")},
+    {"PortAboveAllBoardsOfNoBoard", kFour, 129, -13, kUntouched, NoPort("129"), 9},
+    {"LargestPort", kFour, 0xffffffff, -13, kUntouched, NoPort("-1")},
+    {"PortAboveTheCorruptBoard", PortsOfTypes1To(129), 129, -13, kUntouched, NoPort("129")},
     {"LastPossiblePortOfNoBoard", kFour, 128, -18, 0, "", 9},
     {"FirstPortOfNoBoard", kFour, 1, -18, 0, "", 9},
-    {"PortAboveTheBoard", kFour, 5, -13, kUntouched, NotAmongServing("5", "4")},
-    {"LastPossibleAboveTheBoard", kFour, 128, -13, kUntouched, NotAmongServing("128", "4")},
-    {"NoPorts", {}, 1, -13, kUntouched, NotAmongServing("1", "0")},
-    {"NoPortsInFrontOfAnArray", {{11}, 0}, 1, -13, kUntouched, NotAmongServing("1", "0")},
-    {"TooManyPorts", PortsOfTypes1To(129), 1, -13, kUntouched, NotAmongServing("1", "129")},
-    {"TooManyPortsAndTheLastPossible", PortsOfTypes1To(129), 128, -13, kUntouched,
-     NotAmongServing("128", "129")},
-    {"LargestCount", {{11}, 0xffffffff}, 1, -13, kUntouched, NotAmongServing("1", "-1")},
-    {"TooManyIsFoundBeforeTheMissingArray",
-     {{}, 129},
-     1,
-     -13,
-     kUntouched,
-     NotAmongServing("1", "129")},
+    {"PortAboveTheBoard", kFour, 5, -13, kUntouched, NotAmong("5")},
+    {"LastPossibleAboveTheBoard", kFour, 128, -13, kUntouched, NotAmong("128")},
+    {"NoPorts", {}, 1, -13, kUntouched, NotAmong("1")},
+    {"NoPortsInFrontOfAnArray", {{11}, 0}, 1, -13, kUntouched, NotAmong("1")},
+    {"TooManyPorts", PortsOfTypes1To(129), 1, -13, kUntouched, NotAmong("1")},
+    {"TooManyPortsAndTheLastPossible", PortsOfTypes1To(129), 128, -13, kUntouched, NotAmong("128")},
+    {"LargestCount", {{11}, 0xffffffff}, 1, -13, kUntouched, NotAmong("1")},
+    {"TooManyIsFoundBeforeTheMissingArray", {{}, 129}, 1, -13, kUntouched, NotAmong("1")},
     {"NoArray",
      {{}, 4},
      3,
      -2,
      kUntouched,
-     "\r\nddGetPortTypeByBoardType err! ulBoardType = 7, pServePortArray = 0x0, ulPortNo = 3"},
+     "\r\n{f} err! ulBoardType = 7, {array} = 0x0, ulPortNo = 3"},
     {"FirstPlaceEmpty", kHoles, 1, -2, kUntouched,
-     "\r\nddGetPortTypeByBoardType err! ulBoardType = 7, pstOltPortInformation = 0x0, ulPortNo = 1"},
+     "\r\n{f} err! ulBoardType = 7, pstOltPortInformation = 0x0, ulPortNo = 1"},
     {"PlaceEmpty", kHoles, 3, -2, kUntouched,
-     "\r\nddGetPortTypeByBoardType err! ulBoardType = 7, pstOltPortInformation = 0x0, ulPortNo = 3"},
+     "\r\n{f} err! ulBoardType = 7, pstOltPortInformation = 0x0, ulPortNo = 3"},
 };
-INSTANTIATE_TEST_SUITE_P(Boards, BoardServingPort, testing::ValuesIn(kServing),
-                         testing::PrintToStringParamName());
-
-class BoardSpecialPort : public BoardPort {};
-
-TEST_P(BoardSpecialPort, Type) {
-  PutBoards({.places = {Board{7, "PLBD", kOtherPorts, GetParam().ports}}});
-  Expect(ddGetSpecialPortTypeByBoardType);
-}
-
-string NoSpecialPort(const string& port) {
-  return "\r\nddGetSpecialPortTypeByBoardType err! ulSpcPortNo = " + port +
-         ", MAX_OLT_PORT_NUM_PER_BOARD = 128";
-}
-
-// It shows the number of serving ports.
-string NotAmongSpecial(const string& port) {
-  return "\r\nddGetSpecialPortTypeByBoardType err! ulPortNo = " + port +
-         ", ulTotalServePortNum = 2, MAX_OLT_PORT_NUM_PER_BOARD = 128";
-}
-
-const PortRow kSpecial[] = {
-    {"First", kFour, 1, 0, 11},
-    {"Second", kFour, 2, 0, 12},
-    {"TypeZero", kFour, 3, 0, 0},
-    {"LastAndLargestType", kFour, 4, 0, 0xffffffff},
-    {"LastPossible", PortsOfTypes1To(128), 128, 0, 128},
-    {"FirstOfAFullBoard", PortsOfTypes1To(128), 1, 0, 1},
-    {"BesideEmptyPlaces", kHoles, 4, 0, 14},
-    {"PortZero", kFour, 0, -13, kUntouched, NoSpecialPort("0")},
-    {"PortZeroOfNoBoard", kFour, 0, -13, kUntouched, NoSpecialPort("0"), 9},
-    {"PortAboveAllBoards", kFour, 129, -13, kUntouched, NoSpecialPort("129")},
-    {"PortAboveAllBoardsOfNoBoard", kFour, 129, -13, kUntouched, NoSpecialPort("129"), 9},
-    {"LargestPort", kFour, 0xffffffff, -13, kUntouched, NoSpecialPort("-1")},
-    {"PortAboveTheCorruptBoard", PortsOfTypes1To(129), 129, -13, kUntouched, NoSpecialPort("129")},
-    {"LastPossiblePortOfNoBoard", kFour, 128, -18, 0, "", 9},
-    {"FirstPortOfNoBoard", kFour, 1, -18, 0, "", 9},
-    {"PortAboveTheBoard", kFour, 5, -13, kUntouched, NotAmongSpecial("5")},
-    {"LastPossibleAboveTheBoard", kFour, 128, -13, kUntouched, NotAmongSpecial("128")},
-    {"NoPorts", {}, 1, -13, kUntouched, NotAmongSpecial("1")},
-    {"NoPortsInFrontOfAnArray", {{11}, 0}, 1, -13, kUntouched, NotAmongSpecial("1")},
-    {"TooManyPorts", PortsOfTypes1To(129), 1, -13, kUntouched, NotAmongSpecial("1")},
-    {"TooManyPortsAndTheLastPossible", PortsOfTypes1To(129), 128, -13, kUntouched,
-     NotAmongSpecial("128")},
-    {"LargestCount", {{11}, 0xffffffff}, 1, -13, kUntouched, NotAmongSpecial("1")},
-    {"TooManyIsFoundBeforeTheMissingArray", {{}, 129}, 1, -13, kUntouched, NotAmongSpecial("1")},
-    {"NoArray",
-     {{}, 4},
-     3,
-     -2,
-     kUntouched,
-     "\r\nddGetSpecialPortTypeByBoardType err! ulBoardType = 7, pSpecialPortArray = 0x0, ulPortNo = 3"},
-    {"FirstPlaceEmpty", kHoles, 1, -2, kUntouched,
-     "\r\nddGetSpecialPortTypeByBoardType err! ulBoardType = 7, pstOltPortInformation = 0x0, ulPortNo = 1"},
-    {"PlaceEmpty", kHoles, 3, -2, kUntouched,
-     "\r\nddGetSpecialPortTypeByBoardType err! ulBoardType = 7, pstOltPortInformation = 0x0, ulPortNo = 3"},
-};
-INSTANTIATE_TEST_SUITE_P(Boards, BoardSpecialPort, testing::ValuesIn(kSpecial),
-                         testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Boards, BoardPort,
+                         testing::Combine(testing::ValuesIn(kKinds), testing::ValuesIn(kPorts)),
+                         test::KindAndRow());
 
 using BoardPortNumber = test::BoardTablesTest;
 
-struct NumberQuery {
-  int32_t (*ask)(uint32_t, uint32_t, uint32_t*);
-  const char* above_limit;
-  const char* no_array;
-};
-const NumberQuery kNumberQueries[] = {
-    {ddGetPortTypeByBoardType, "\r\nddGetPortTypeByBoardType err! ulSupportedBoardTypeNum = 101",
-     "\r\nddGetPortTypeByBoardType err! pBoardTypeArray = 0x0"},
-    {ddGetSpecialPortTypeByBoardType,
-     "\r\nddGetSpecialPortTypeByBoardType err! ulSupportedBoardTypeNum = 101",
-     "\r\nddGetSpecialPortTypeByBoardType err! pBoardTypeArray = 0x0"},
-};
-
 TEST_F(BoardPortNumber, IsCheckedBehindTheTable) {
   for (const uint32_t port : {0u, 129u}) {
-    for (const NumberQuery& query : kNumberQueries) {
+    for (const Kind& kind : kKinds) {
       uint32_t type = kUntouched;
-      AskTwice(query.no_array, [&] { EXPECT_EQ(query.ask(7, port, &type), -10); });
+      AskTwice(Of(kind, "\r\n{f} err! pBoardTypeArray = 0x0"),
+               [&] { EXPECT_EQ(kind.ask(7, port, &type), -10); });
       Overwrite(gstSupportedBoardType.ulSupportedBoardTypeNum, 101);
-      AskTwice(query.above_limit, [&] { EXPECT_EQ(query.ask(7, port, &type), -19); });
+      AskTwice(Of(kind, "\r\n{f} err! ulSupportedBoardTypeNum = 101"),
+               [&] { EXPECT_EQ(kind.ask(7, port, &type), -19); });
       Overwrite(gstSupportedBoardType.ulSupportedBoardTypeNum, 0);
       EXPECT_EQ(type, kUntouched);
     }
@@ -191,11 +148,13 @@ TEST_F(BoardPortNumber, IsCheckedBehindTheTable) {
 }
 
 TEST_F(BoardPortNumber, IsCheckedBehindTheOutput) {
-  PutBoards({.places = {Board{7, "PLBD", {{11}}, {{12}}}}});
-  AskTwice("\r\nddGetPortTypeByBoardType err! pulPortType = 0x0",
-           [] { EXPECT_EQ(ddGetPortTypeByBoardType(7, 0, nullptr), -2); });
-  AskTwice("\r\nddGetSpecialPortTypeByBoardType err! pulPortType = 0x0",
-           [] { EXPECT_EQ(ddGetSpecialPortTypeByBoardType(7, 129, nullptr), -2); });
+  PutBoards({.places = {PlacedBoard{7, "PLBD", {{11}}, {{12}}}}});
+  for (const uint32_t port : {0u, 129u}) {
+    for (const Kind& kind : kKinds) {
+      AskTwice(Of(kind, "\r\n{f} err! pulPortType = 0x0"),
+               [&] { EXPECT_EQ(kind.ask(7, port, nullptr), -2); });
+    }
+  }
 }
 
 // ---- ONUs of a PON port -------------------------------------------------------------
@@ -223,11 +182,12 @@ class BoardPon : public test::BoardTablesTest, public testing::WithParamInterfac
 };
 
 TEST_P(BoardPon, Onus) {
-  PutBoards({.places = {Board{7, "PLBD", {{1, 2, 3, kNull, 5, 6, 0, 0xffffffff}}, {{4}}},
-                        Board{8, "NOARRAY", {{}, 2}}, Board{9, "CORRUPT", {{1}, 129}}}});
-  PutPortTypes(
-      {.places = {test::PortType{1, 64}, kNull, test::PortType{2, 0}, test::PortType{3, 512},
-                  test::PortType{1, 32}, test::PortType{5, 513}, test::PortType{0, 8}}});
+  PutBoards(
+      {.places = {PlacedBoard{7, "PLBD", {{1, 2, 3, kNull, 5, 6, 0, 0xffffffff}}, {{4}}},
+                  PlacedBoard{8, "NOARRAY", {{}, 2}}, PlacedBoard{9, "CORRUPT", {{1}, 129}}}});
+  PutPortTypes({.places = {test::PlacedPortType{1, 64}, kNull, test::PlacedPortType{2, 0},
+                           test::PlacedPortType{3, 512}, test::PlacedPortType{1, 32},
+                           test::PlacedPortType{5, 513}, test::PlacedPortType{0, 8}}});
   ExpectOnus(GetParam().board_type, GetParam().pon, GetParam().code, GetParam().answer,
              GetParam().text);
 }
@@ -280,15 +240,15 @@ INSTANTIATE_TEST_SUITE_P(Boards, BoardPon, testing::ValuesIn(kPons),
 class BoardPonTables : public BoardPon {};
 
 TEST_F(BoardPonTables, NoPortTypes) {
-  PutBoards({.places = {Board{7, "PLBD", {{3, 4}}}}});
+  PutBoards({.places = {PlacedBoard{7, "PLBD", {{3, 4}}}}});
   ExpectOnus(7, 2, -10, kUntouched,
              "\r\nddGetOltPortSplittingRatioByType err! ulPortType = 4, pOltPortTypeArray = 0x0" +
                  RatioFailed("2", "4"));
 }
 
 TEST_F(BoardPonTables, CorruptPortTypes) {
-  PutBoards({.places = {Board{7, "PLBD", {{3, 4}}}}});
-  PutPortTypes({.places = {test::PortType{3, 64}}, .count = 31});
+  PutBoards({.places = {PlacedBoard{7, "PLBD", {{3, 4}}}}});
+  PutPortTypes({.places = {test::PlacedPortType{3, 64}}, .count = 31});
   ExpectOnus(7, 1, -11, kUntouched,
              "\r\nddGetOltPortSplittingRatioByType err! ulSupportedOltPortTypeNum = 31" +
                  RatioFailed("1", "3"));

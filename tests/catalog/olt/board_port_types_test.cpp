@@ -8,9 +8,9 @@
 namespace {
 
 using std::string;
-using test::Board;
 using test::kNull;
 using test::kUntouched;
+using test::PlacedBoard;
 using test::Ports;
 using test::PortsOfTypes1To;
 
@@ -31,7 +31,7 @@ class BoardAllPortTypes : public test::BoardTablesTest,
                           public testing::WithParamInterface<AllRow> {};
 
 TEST_P(BoardAllPortTypes, InOrderOfAppearance) {
-  PutBoards({.places = {Board{7, "PLBD", GetParam().serving, GetParam().special}}});
+  PutBoards({.places = {PlacedBoard{7, "PLBD", GetParam().serving, GetParam().special}}});
   std::vector<uint32_t> expected = GetParam().list;
   expected.resize(300, kUntouched);
   AskTwice(GetParam().text, [&] {
@@ -145,7 +145,7 @@ class BoardPortsOfOneType : public test::BoardTablesTest,
                             public testing::WithParamInterface<OneRow> {};
 
 TEST_P(BoardPortsOfOneType, ServingElseSpecial) {
-  PutBoards({.places = {Board{7, "PLBD", GetParam().serving, GetParam().special}}});
+  PutBoards({.places = {PlacedBoard{7, "PLBD", GetParam().serving, GetParam().special}}});
   AskTwice(GetParam().text, [] {
     uint32_t number = kUntouched;
     EXPECT_EQ(ddGetBoardOneTypePortsByType(7, GetParam().port_type, &number), GetParam().code);

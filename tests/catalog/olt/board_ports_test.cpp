@@ -1,12 +1,15 @@
 // The ports of a service board: both kinds of them, by the same rows.
 #include <cstdint>
-#include <functional>
+#include <cstring>
 #include <ostream>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "catalog/olt/service_boards.h"
+#include "support/rows.h"
+#include "support/text.h"
 
 // The functions of the port types answer for the name "ODD" as a test says.
 struct OddPort {
@@ -39,7 +42,7 @@ int32_t __wrap_ddCreateOneOltPortObjByName(const char* name, OltPortInformation*
   if (name == nullptr || std::strcmp(name, "ODD") != 0) {
     return __real_ddCreateOneOltPortObjByName(name, port);
   }
-  *port = odd_port.copy_code == 0 ? test::NewPort(test::PortTypes()[2]) : nullptr;
+  *port = odd_port.copy_code == 0 ? test::NewPort(test::KnownPortTypes()[2]) : nullptr;
   if (*port != nullptr) {
     (*port)->ulLink = 0;
   }
@@ -84,9 +87,7 @@ string Of(const Kind& kind, string text) {
       {"{field}", kind.count_field}, {"{array}", kind.array_field}, {"{limit}", kind.limit},
   };
   for (const auto& [word, value] : words) {
-    for (size_t place = 0; (place = text.find(word)) != string::npos;) {
-      text.replace(place, word.size(), value);
-    }
+    text = test::With(text, word, value);
   }
   return text;
 }
@@ -217,11 +218,6 @@ struct AddRow {
   friend std::ostream& operator<<(std::ostream& out, const AddRow& row) { return out << row.name; }
 };
 
-template <typename Row>
-string NameOf(const testing::TestParamInfo<std::tuple<Kind, Row>>& info) {
-  return string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
-}
-
 class AddPorts : public BoardPortsTest,
                  public testing::WithParamInterface<std::tuple<Kind, AddRow>> {};
 
@@ -256,7 +252,7 @@ const AddRow kAdds[] = {
 };
 INSTANTIATE_TEST_SUITE_P(ServiceBoards, AddPorts,
                          testing::Combine(testing::ValuesIn(kKinds), testing::ValuesIn(kAdds)),
-                         NameOf<AddRow>);
+                         test::KindAndRow());
 
 using AddPortsOf = BoardPortsTest;
 
@@ -344,7 +340,7 @@ const FailRow kNumbers[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Number, AddNoPorts,
                          testing::Combine(testing::ValuesIn(kKinds), testing::ValuesIn(kNumbers)),
-                         NameOf<FailRow>);
+                         test::KindAndRow());
 
 const FailRow kPorts[] = {
     {"FirstMissing", "[Sec]\n{count}=2\n{port}2=GPON\n", -1, Effect::kPortFailed,
@@ -382,7 +378,7 @@ const FailRow kPorts[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Port, AddNoPorts,
                          testing::Combine(testing::ValuesIn(kKinds), testing::ValuesIn(kPorts)),
-                         NameOf<FailRow>);
+                         test::KindAndRow());
 
 // ---- Answers of the port types that no table gives ----------------------------
 
@@ -429,7 +425,7 @@ const OddRow kOdds[] = {
 };
 INSTANTIATE_TEST_SUITE_P(ServiceBoards, AddOddPort,
                          testing::Combine(testing::ValuesIn(kKinds), testing::ValuesIn(kOdds)),
-                         NameOf<OddRow>);
+                         test::KindAndRow());
 
 // ---- Arguments, positions, memory ---------------------------------------------
 

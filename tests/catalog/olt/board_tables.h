@@ -1,16 +1,15 @@
 // The board tables as a query may find them.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
 
+#include "support/records.h"
 #include "support/tables.h"
 #include "sys_context/olt.h"
 
@@ -21,7 +20,7 @@ constexpr uint32_t kUntouched = 7777;           // in the outputs, before a quer
 
 // A table: what its places hold, and what is wrong with it.
 template <typename Record>
-struct Table {
+struct PlacedRecords {
   std::vector<std::optional<Record>> places = {};
   bool has_array = true;
   std::optional<uint32_t> count = {};  // announced, if it is not the number of places
@@ -35,20 +34,20 @@ struct Ports {
 
 // A service board or, without ports, a main board. A name of 60 characters fills
 // its field, and its length does not fit.
-struct Board {
+struct PlacedBoard {
   uint32_t type;
   std::string name;
   Ports serving = {};
   Ports special = {};
   std::optional<uint32_t> name_length = {};  // stored, if it is not the name's
 };
-using Boards = Table<Board>;
+using PlacedBoards = PlacedRecords<PlacedBoard>;
 
-struct PortType {
+struct PlacedPortType {
   uint32_t type;
   uint32_t ratio;
 };
-using PortTypes = Table<PortType>;
+using PlacedPortTypes = PlacedRecords<PlacedPortType>;
 
 // A port of each type from 1 to `count`.
 inline Ports PortsOfTypes1To(uint32_t count) {
@@ -68,22 +67,22 @@ class BoardTablesTest : public LibraryTest {
     LibraryTest::TearDown();
   }
 
-  void PutMainBoards(const Boards& boards) {
+  void PutMainBoards(const PlacedBoards& boards) {
     Put(boards, gstSupportedMainBoardType.ulSupportedBoardTypeNum,
         gstSupportedMainBoardType.pBoardTypeArray,
-        [](const Board& board) { return NewNamed<MainBoardInformation>(board); });
+        [](const PlacedBoard& board) { return NewNamed<MainBoardInformation>(board); });
   }
 
-  void PutBoards(const Boards& boards) {
+  void PutBoards(const PlacedBoards& boards) {
     Put(boards, gstSupportedBoardType.ulSupportedBoardTypeNum,
         gstSupportedBoardType.pBoardTypeArray,
-        [this](const Board& board) { return NewServiceBoard(board); });
+        [this](const PlacedBoard& board) { return NewServiceBoard(board); });
   }
 
-  void PutPortTypes(const PortTypes& types) {
+  void PutPortTypes(const PlacedPortTypes& types) {
     Put(types, gstSupportedOltPortType.ulSupportedOltPortTypeNum,
         gstSupportedOltPortType.pOltPortTypeArray,
-        [](const PortType& type) { return NewPort(type.type, type.ratio); });
+        [](const PlacedPortType& type) { return NewPort(type.type, type.ratio); });
   }
 
   // Changes a word of the tables until the end of the test: they could not be
@@ -117,12 +116,11 @@ class BoardTablesTest : public LibraryTest {
   }
 
   template <typename Record>
-  static Record* NewNamed(const Board& board) {
+  static Record* NewNamed(const PlacedBoard& board) {
     Record* const record = New<Record>(1);
     record->ulType = board.type;
-    const size_t length = board.name.size() + 1;
-    record->ulNameLen = board.name_length.value_or(static_cast<uint32_t>(length));
-    std::memcpy(record->acName, board.name.c_str(), std::min(length, sizeof record->acName));
+    StoreName(board.name, record->acName, record->ulNameLen);
+    record->ulNameLen = board.name_length.value_or(record->ulNameLen);
     return record;
   }
 
@@ -134,7 +132,7 @@ class BoardTablesTest : public LibraryTest {
   }
 
   template <typename Place, typename Record, typename Make>
-  void Put(const Table<Place>& table, uint32_t& count, Record**& array, Make make) {
+  void Put(const PlacedRecords<Place>& table, uint32_t& count, Record**& array, Make make) {
     if (table.has_array) {
       count = static_cast<uint32_t>(table.places.size());
       array = New<Record*>(count);
@@ -146,11 +144,11 @@ class BoardTablesTest : public LibraryTest {
   }
 
   void PutPorts(const Ports& ports, uint32_t& count, OltPortInformation**& array) {
-    Put(Table<uint32_t>{ports.types, !ports.types.empty(), ports.count}, count, array,
+    Put(PlacedRecords<uint32_t>{ports.types, !ports.types.empty(), ports.count}, count, array,
         [](uint32_t type) { return NewPort(type, 0); });
   }
 
-  BoardInformation* NewServiceBoard(const Board& board) {
+  BoardInformation* NewServiceBoard(const PlacedBoard& board) {
     BoardInformation* const record = NewNamed<BoardInformation>(board);
     PutPorts(board.serving, record->ulTotalServePortNum, record->pPortArray);
     PutPorts(board.special, record->ulTotalSpecialPortNum, record->pSpecialPortArray);

@@ -1,67 +1,19 @@
 // Asking for the names and the types of cards: of main boards first, then of
 // service boards.
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "catalog/olt/board_tables.h"
+#include "catalog/olt/name_tables.h"
 
 namespace {
 
+using namespace test;  // for its tables, rows and texts
 using std::string;
-using test::Board;
-using test::Boards;
-using test::kNull;
-using test::kUntouched;
-
-const string k59(59, 'N');
-const string k60(60, 'N');
-
-const Boards kNoArray = {.has_array = false};
-const Boards kCorrupt = {.places = {Board{1, "CTLA"}, Board{7, "PLBD"}}, .count = 101};
-
-// Name lengths of 61 are corrupt.
-const Boards kMain = {.places = {Board{1, "CTLA"}, Board{2, "CTLB"}, Board{1, "CTLC"},
-                                 Board{3, "BOTH"}, Board{6, k60}, Board{4, "CTLA"},
-                                 Board{5, "Ctl-M"}}};
-const Boards kMainWithHole = {.places = {kNull, Board{1, "CTLA"}, kNull}};
-const Boards kService = {.places = {Board{7, "PLBD"}, kNull, Board{8, "plbd"}, Board{1, "ONE"},
-                                    Board{7, "SECOND"}, Board{10, k59}, Board{11, k60},
-                                    Board{0, "ZERO"}, Board{0xffffffff, ""}, Board{6, "SIX"},
-                                    Board{12, "BOTH"}, Board{13, "PLBD"}, Board{14, "PlBe"},
-                                    Board{15, "A-1 {Z}[\xe4]"}}};
 
 // ---- Type by name -------------------------------------------------------------------
 
-struct TypeRow {
-  const char* name;
-  Boards main;
-  Boards boards;
-  string asked;
-  int32_t code;
-  uint32_t answer = kUntouched;
-  string text = "";
-  friend std::ostream& operator<<(std::ostream& out, const TypeRow& row) { return out << row.name; }
-};
-
-class CardTypeTest : public test::BoardTablesTest, public testing::WithParamInterface<TypeRow> {
- protected:
-  void Expect(int32_t (*ask)(const char*, uint32_t*)) {
-    PutMainBoards(GetParam().main);
-    PutBoards(GetParam().boards);
-    // Without a byte to spare, so that a look behind its end is noticed.
-    const string& text = GetParam().asked;
-    const std::vector<char> asked(text.c_str(), text.c_str() + text.size() + 1);
-    AskTwice(GetParam().text, [&] {
-      uint32_t type = kUntouched;
-      EXPECT_EQ(ask(asked.data(), &type), GetParam().code);
-      EXPECT_EQ(type, GetParam().answer);
-    });
-  }
-};
-
-class CardType : public CardTypeTest {};
+class CardType : public TypeByNameTest {};
 
 TEST_P(CardType, ByName) {
   Expect(ddGetCardTypeByName);
@@ -71,13 +23,6 @@ TEST_P(CardType, ByName) {
 string Twice(const string& text) {
   return text + text;
 }
-
-const string kNoMain = "\r\nddGetMainBoardTypeByName err!, pBoardTypeArray = 0x0";
-const string kHole = "\r\nddGetMainBoardTypeByName err!, pstMainBoardInformation = 0x0";
-const string kCorruptMain =
-    "\r\nddGetMainBoardTypeByName err!, ulSupportedBoardTypeNum = 101, MAX_OLT_BOARD_TYPE_NUM = 100";
-const string kNoBoards = "\r\nddGetBoardTypeByName err! pBoardTypeArray = 0x0";
-const string kCorruptBoards = "\r\nddGetBoardTypeByName err! ulSupportedBoardTypeNum = 101";
 
 string NoCard(const string& name) {
   return "\r\nddGetCardTypeByName err!, pcCardName = " + name;
@@ -89,7 +34,7 @@ const TypeRow kTypes[] = {
     {"MainBoardBeforeTheServiceBoard", kMain, kService, "BOTH", 0, 3},
     {"FirstOfTwoServiceBoards", kMain, kService, "PLBD", 0, 7},
     {"LowerCase", kMain, kService, "plbd", 0, 8},
-    {"MixedCase", kMain, kService, "PlBe", 0, 14},
+    {"MixedCase", kMain, kService, "PlBe", 0, 17},
     {"Longest", kMain, kService, k59, 0, 10},
     {"TypeZero", kMain, kService, "ZERO", 0, 0},
     {"EmptyNameOfTheLargestType", kMain, kService, "", 0, 0xffffffff},
@@ -98,21 +43,23 @@ const TypeRow kTypes[] = {
     {"MoreThanAName", kMain, kService, "CTLA1", -32, kUntouched, NoCard("CTLA1")},
     {"CorruptNamesPassedOver", kMain, kService, k60, -32, kUntouched, NoCard(k60)},
     {"VeryLong", kMain, kService, string(2000, 'N'), -32, kUntouched, NoCard(string(2000, 'N'))},
-    {"MainBoardBehindAHole", kMainWithHole, kService, "CTLA", 0, 1, kHole},
-    {"ServiceBoardAndHoles", kMainWithHole, kService, "PLBD", 0, 7, Twice(kHole + kHole)},
-    {"NoMainBoards", kNoArray, kService, "PLBD", 0, 7, Twice(kNoMain)},
-    {"CorruptMainBoards", kCorrupt, kService, "BOTH", 0, 12, Twice(kCorruptMain)},
+    {"MainBoardBehindAHole", kMainWithHole, kService, "CTLA", 0, 1, kHoleForType},
+    {"ServiceBoardAndHoles", kMainWithHole, kService, "PLBD", 0, 7,
+     Twice(kHoleForType + kHoleForType)},
+    {"NoMainBoards", kNoArray, kService, "PLBD", 0, 7, Twice(kNoMainForType)},
+    {"CorruptMainBoards", kCorrupt, kService, "BOTH", 0, 12, Twice(kCorruptMainForType)},
     {"CorruptMainBoardsAndUnknown", kCorrupt, kService, "CTLA", -32, kUntouched,
-     Twice(kCorruptMain) + NoCard("CTLA")},
+     Twice(kCorruptMainForType) + NoCard("CTLA")},
     {"MainBoardWithoutServiceBoards", kMain, kNoArray, "CTLB", 0, 2},
     {"MainBoardAndCorruptServiceBoards", kMain, kCorrupt, "CTLB", 0, 2},
-    {"NoServiceBoards", kMain, kNoArray, "PLBD", -32, kUntouched, kNoBoards + NoCard("PLBD")},
+    {"NoServiceBoards", kMain, kNoArray, "PLBD", -32, kUntouched,
+     kNoBoardsForType + NoCard("PLBD")},
     {"CorruptServiceBoards", kMain, kCorrupt, "PLBD", -32, kUntouched,
-     kCorruptBoards + NoCard("PLBD")},
+     kCorruptForType + NoCard("PLBD")},
     {"NoTables", kNoArray, kNoArray, "PLBD", -32, kUntouched,
-     Twice(kNoMain) + kNoBoards + NoCard("PLBD")},
+     Twice(kNoMainForType) + kNoBoardsForType + NoCard("PLBD")},
     {"CorruptTables", kCorrupt, kCorrupt, "PLBD", -32, kUntouched,
-     Twice(kCorruptMain) + kCorruptBoards + NoCard("PLBD")},
+     Twice(kCorruptMainForType) + kCorruptForType + NoCard("PLBD")},
     {"EmptyTables", {}, {}, "PLBD", -32, kUntouched, NoCard("PLBD")},
 };
 INSTANTIATE_TEST_SUITE_P(Cards, CardType, testing::ValuesIn(kTypes),
@@ -120,12 +67,12 @@ INSTANTIATE_TEST_SUITE_P(Cards, CardType, testing::ValuesIn(kTypes),
 
 // ---- Type by a name in any case -----------------------------------------------------
 
-class CardTypeInAnyCase : public CardTypeTest {};
+class CardTypeInAnyCase : public TypeByNameTest {};
 
 // A name that can be looked up is too short for the conversion to yield.
 TEST_P(CardTypeInAnyCase, ByName) {
   Expect(ddGetCardTypeByNocaseName);
-  EXPECT_EQ(test::FakePlatform::Get().delays, std::vector<int32_t>());
+  EXPECT_EQ(FakePlatform::Get().delays, std::vector<int32_t>());
 }
 
 string NoCardInUpperCase(const string& name) {
@@ -148,14 +95,14 @@ const TypeRow kAnyCase[] = {
     {"MainBoardBeforeTheServiceBoard", kMain, kService, "Both", 0, 3},
     {"Empty", kMain, kService, "", 0, 0xffffffff},
     {"Longest", kMain, kService, string(59, 'n'), 0, 10},
-    {"OtherCharacters", kMain, {.places = {Board{16, "A-1 {Z}[\xe4]"}}}, "a-1 {z}[\xe4]", 0, 16},
+    {"OtherCharacters", kMain, kService, "a-1 {z}[\xe4]", 0, 16},
     {"StoredInMixedCase", kMain, kService, "plbe", -32, kUntouched, NoCardInUpperCase("PLBE")},
     {"SpelledAsStoredInMixedCase", kMain, kService, "PlBe", -32, kUntouched,
      NoCardInUpperCase("PLBE")},
     {"MainBoardInMixedCase", kMain, kService, "Ctl-M", -32, kUntouched, NoCardInUpperCase("CTL-M")},
     {"StoredInLowerCase",
      kMain,
-     {.places = {Board{8, "plbd"}}},
+     {.places = {PlacedBoard{8, "plbd"}}},
      "plbd",
      -32,
      kUntouched,
@@ -172,11 +119,11 @@ const TypeRow kAnyCase[] = {
      NotConverted("\r\nddStringToUppercase, ulOriLen = 5001", "5001")},
     {"TooLongIsFoundBeforeTheMissingTables", kNoArray, kNoArray, string(60, 'n'), -33, kUntouched,
      NotConverted("\r\nddStringToUppercase, ulOriLen = 61, ulDstLen = 60", "61")},
-    {"NoMainBoards", kNoArray, kService, "plbd", 0, 7, Twice(kNoMain)},
+    {"NoMainBoards", kNoArray, kService, "plbd", 0, 7, Twice(kNoMainForType)},
     {"NoTables", kNoArray, kNoArray, "plbd", -32, kUntouched,
-     Twice(kNoMain) + kNoBoards + NoCardInUpperCase("PLBD")},
+     Twice(kNoMainForType) + kNoBoardsForType + NoCardInUpperCase("PLBD")},
     {"CorruptTables", kCorrupt, kCorrupt, "plbd", -32, kUntouched,
-     Twice(kCorruptMain) + kCorruptBoards + NoCardInUpperCase("PLBD")},
+     Twice(kCorruptMainForType) + kCorruptForType + NoCardInUpperCase("PLBD")},
     {"EmptyTables", {}, {}, "plbd", -32, kUntouched, NoCardInUpperCase("PLBD")},
 };
 INSTANTIATE_TEST_SUITE_P(Cards, CardTypeInAnyCase, testing::ValuesIn(kAnyCase),
@@ -191,7 +138,7 @@ struct NullRow {
   friend std::ostream& operator<<(std::ostream& out, const NullRow& row) { return out << row.name; }
 };
 
-class CardTypeNull : public test::BoardTablesTest, public testing::WithParamInterface<NullRow> {};
+class CardTypeNull : public BoardTablesTest, public testing::WithParamInterface<NullRow> {};
 
 TEST_P(CardTypeNull, Arguments) {
   PutMainBoards({.has_array = false, .count = 101});  // looked at later only
@@ -217,41 +164,11 @@ INSTANTIATE_TEST_SUITE_P(Cards, CardTypeNull, testing::ValuesIn(kNulls),
 
 // ---- Name by type -------------------------------------------------------------------
 
-struct NameRow {
-  const char* name;
-  Boards main;
-  Boards boards;
-  uint32_t type;
-  int32_t code;
-  string answer = "";
-  string text = "";
-  friend std::ostream& operator<<(std::ostream& out, const NameRow& row) { return out << row.name; }
-};
-
-class CardName : public test::BoardTablesTest, public testing::WithParamInterface<NameRow> {};
+class CardName : public NameByTypeTest {};
 
 TEST_P(CardName, ByType) {
-  PutMainBoards(GetParam().main);
-  PutBoards(GetParam().boards);
-  AskTwice(GetParam().text, [] {
-    string buffer(60, '#');
-    EXPECT_EQ(ddGetCardNameByType(GetParam().type, buffer.data()), GetParam().code);
-    // The name with its terminator, and not a byte more.
-    string expected(60, '#');
-    if (GetParam().code == 0) {
-      const string& answer = GetParam().answer;
-      std::copy_n(answer.c_str(), answer.size() + 1, expected.begin());
-    }
-    EXPECT_EQ(buffer, expected);
-  });
+  Expect(ddGetCardNameByType);
 }
-
-const string kNoMainForName = "\r\nddGetMainBoardNameByType err!, pBoardTypeArray = 0x0";
-const string kHoleForName = "\r\nddGetMainBoardNameByType err!, pstMainBoardInformation = 0x0";
-const string kCorruptMainForName =
-    "\r\nddGetMainBoardNameByType err!, ulSupportedBoardTypeNum = 101, MAX_OLT_BOARD_TYPE_NUM = 100";
-const string kNoBoardsForName = "\r\nddGetBoardNameByType err! pBoardTypeArray = 0x0";
-const string kCorruptForName = "\r\nddGetBoardNameByType err! ulSupportedBoardTypeNum = 101";
 
 string NoCardOfType(const string& type) {
   return "\r\nddGetCardNameByType err!, ulBoardType = " + type;
@@ -285,7 +202,7 @@ const NameRow kNames[] = {
 INSTANTIATE_TEST_SUITE_P(Cards, CardName, testing::ValuesIn(kNames),
                          testing::PrintToStringParamName());
 
-using CardNames = test::BoardTablesTest;
+using CardNames = BoardTablesTest;
 
 TEST_F(CardNames, NullBuffer) {
   PutMainBoards(kMain);

@@ -16,7 +16,7 @@ class MainBoardMemory : public test::LibraryTest {
  protected:
   void ExpectBoards(const std::vector<int>& boards);
 
-  test::DefinitionFile file_{test::BoardList(3) + test::SmallBoard(1) + test::SmallBoard(2) +
+  test::DefinitionFile file_{test::MainBoardList(3) + test::SmallBoard(1) + test::SmallBoard(2) +
                              test::SmallBoard(3)};
   test::Console console_;
 };
@@ -30,7 +30,7 @@ void MainBoardMemory::ExpectBoards(const std::vector<int>& boards) {
       continue;
     }
     ASSERT_NE(board, nullptr);
-    test::ExpectBoard(*board, test::SmallRecord(boards[i]));
+    test::ExpectMainBoard(*board, test::SmallRecord(boards[i]));
   }
 }
 
@@ -213,8 +213,8 @@ void MainBoardLookups::ExpectBoards(int failing) {
     return;
   }
   ASSERT_EQ(gstSupportedMainBoardType.ulSupportedBoardTypeNum, 1u);
-  test::ExpectBoard(*gstSupportedMainBoardType.pBoardTypeArray[0],
-                    failing < kSecondEntry ? test::SmallRecord(9) : test::SectionBoard());
+  test::ExpectMainBoard(*gstSupportedMainBoardType.pBoardTypeArray[0],
+                        failing < kSecondEntry ? test::SmallRecord(9) : test::SectionBoard());
   EXPECT_EQ(gstSupportedMainBoardType.pBoardTypeArray[1], nullptr);
 }
 

@@ -5,11 +5,13 @@
 #include <vector>
 
 #include "catalog/olt/main_boards.h"
+#include "support/records.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
-using test::Table;
+using test::MainBoardTable;
 
 using MainBoardQueries = test::MainBoardTest;
 
@@ -17,7 +19,7 @@ using MainBoardQueries = test::MainBoardTest;
 
 struct NameRow {
   const char* name;
-  Table table;
+  MainBoardTable table;
   uint32_t type;
   int32_t code;
   string answer = "";
@@ -31,15 +33,8 @@ TEST_P(MainBoardName, ByType) {
   Put(GetParam().table);
   for (const int32_t debug : {0, 1, -1}) {
     ddDebugPrint = debug;
-    string buffer(60, '#');
-    EXPECT_EQ(ddGetMainBoardNameByType(GetParam().type, buffer.data()), GetParam().code);
-    // The name with its terminator, and not a byte more.
-    string expected(60, '#');
-    if (GetParam().code == 0) {
-      const string& answer = GetParam().answer;
-      std::copy_n(answer.c_str(), answer.size() + 1, expected.begin());
-    }
-    EXPECT_EQ(buffer, expected);
+    test::ExpectNameCopied(ddGetMainBoardNameByType, GetParam().type, GetParam().code,
+                           GetParam().answer);
     EXPECT_EQ(console_.Text(), debug != 0 ? GetParam().debug_console : "");
   }
 }
@@ -54,21 +49,21 @@ constexpr char kCorruptForName[] =
 constexpr char kNoneForName[] = "\r\nddGetMainBoardNameByType err!, pBoardTypeArray = 0x0";
 
 const NameRow kNames[] = {
-    {"First", Table::kLoaded, 1, 0, "MPU"},
-    {"FirstOfTwo", Table::kLoaded, 3, 0, "SWU"},
-    {"Longest", Table::kLoaded, 6, 0, string(59, 'n')},
-    {"Empty", Table::kLoaded, 0xffffffff, 0, ""},
-    {"TypeZero", Table::kLoaded, 0, 0, "ZERO"},
-    {"Unknown", Table::kLoaded, 2, -18},
-    {"BehindAnEmptyPlace", Table::kEmptyPlaces, 1, 0, "MPU", kEmptyForName},
-    {"BehindTwoEmptyPlaces", Table::kEmptyPlaces, 4, 0, "swu", kTwoEmptyForName},
-    {"UnknownWithEmptyPlaces", Table::kEmptyPlaces, 2, -18, "", kTwoEmptyForName},
-    {"LastOfAFullTable", Table::kFull, 100, 0, "100"},
-    {"NoTable", Table::kNone, 1, -10, "", kNoneForName},
-    {"NoTableButACount", Table::kNoneButCount, 1, -10, "", kNoneForName},
-    {"CorruptCount", Table::kCorrupt, 1, -19, "", kCorruptForName},
-    {"CorruptCountNoTable", Table::kCorruptNone, 1, -19, "", kCorruptForName},
-    {"LargestCount", Table::kCorruptMost, 1, -19, "",
+    {"First", MainBoardTable::kLoaded, 1, 0, "MPU"},
+    {"FirstOfTwo", MainBoardTable::kLoaded, 3, 0, "SWU"},
+    {"Longest", MainBoardTable::kLoaded, 6, 0, string(59, 'n')},
+    {"Empty", MainBoardTable::kLoaded, 0xffffffff, 0, ""},
+    {"TypeZero", MainBoardTable::kLoaded, 0, 0, "ZERO"},
+    {"Unknown", MainBoardTable::kLoaded, 2, -18},
+    {"BehindAnEmptyPlace", MainBoardTable::kEmptyPlaces, 1, 0, "MPU", kEmptyForName},
+    {"BehindTwoEmptyPlaces", MainBoardTable::kEmptyPlaces, 4, 0, "swu", kTwoEmptyForName},
+    {"UnknownWithEmptyPlaces", MainBoardTable::kEmptyPlaces, 2, -18, "", kTwoEmptyForName},
+    {"LastOfAFullTable", MainBoardTable::kFull, 100, 0, "100"},
+    {"NoTable", MainBoardTable::kNone, 1, -10, "", kNoneForName},
+    {"NoTableButACount", MainBoardTable::kNoneButCount, 1, -10, "", kNoneForName},
+    {"CorruptCount", MainBoardTable::kCorrupt, 1, -19, "", kCorruptForName},
+    {"CorruptCountNoTable", MainBoardTable::kCorruptNone, 1, -19, "", kCorruptForName},
+    {"LargestCount", MainBoardTable::kCorruptMost, 1, -19, "",
      "\r\nddGetMainBoardNameByType err!, ulSupportedBoardTypeNum = -1, MAX_OLT_BOARD_TYPE_NUM = "
      "100"},
 };
@@ -76,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(MainBoards, MainBoardName, testing::ValuesIn(kNames),
                          testing::PrintToStringParamName());
 
 TEST_F(MainBoardQueries, NameIntoANullBuffer) {
-  Put(Table::kCorruptNone);  // looked at later only
+  Put(MainBoardTable::kCorruptNone);  // looked at later only
   EXPECT_EQ(ddGetMainBoardNameByType(1, nullptr), -2);
   EXPECT_EQ(console_.Text(), "");
   ddDebugPrint = 1;
@@ -85,7 +80,7 @@ TEST_F(MainBoardQueries, NameIntoANullBuffer) {
 }
 
 TEST_F(MainBoardQueries, RecordsWithACorruptNameLengthHaveNoName) {
-  Put(Table::kLoaded);
+  Put(MainBoardTable::kLoaded);
   ddDebugPrint = 1;
   boards_[1].ulNameLen = 61;  // the first of type 3
   char buffer[60] = {};
@@ -102,7 +97,7 @@ TEST_F(MainBoardQueries, RecordsWithACorruptNameLengthHaveNoName) {
 }
 
 TEST_F(MainBoardQueries, AsMuchOfTheNameIsGivenAsItsLengthTells) {
-  Put(Table::kLoaded);
+  Put(MainBoardTable::kLoaded);
   std::copy_n("SWU\0behind", 10, boards_[1].acName);
   for (const uint32_t length : {0u, 3u, 4u, 10u, 60u}) {
     boards_[1].ulNameLen = length;
@@ -118,7 +113,7 @@ TEST_F(MainBoardQueries, AsMuchOfTheNameIsGivenAsItsLengthTells) {
 
 struct TypeRow {
   const char* name;
-  Table table;
+  MainBoardTable table;
   string asked;
   int32_t code;
   uint32_t answer = 77;  // untouched
@@ -152,28 +147,28 @@ constexpr char kCorruptForType[] =
 constexpr char kNoneForType[] = "\r\nddGetMainBoardTypeByName err!, pBoardTypeArray = 0x0";
 
 const TypeRow kTypes[] = {
-    {"First", Table::kLoaded, "MPU", 0, 1},
-    {"FirstOfTwo", Table::kLoaded, "SWU", 0, 3},
-    {"OtherCaseIsAnotherName", Table::kLoaded, "swu", 0, 4},
-    {"LongerName", Table::kLoaded, "SWU2", 0, 3},
-    {"Longest", Table::kLoaded, string(59, 'n'), 0, 6},
-    {"Empty", Table::kLoaded, "", 0, 0xffffffff},
-    {"TypeZero", Table::kLoaded, "ZERO", 0, 0},
-    {"StartOfAName", Table::kLoaded, "SW", -32},
-    {"MoreThanAName", Table::kLoaded, "SWU23", -32},
-    {"NoCaseOfAName", Table::kLoaded, "Swu", -32},
-    {"BlankAtTheEnd", Table::kLoaded, "SWU ", -32},
-    {"LongerThanAnyName", Table::kLoaded, string(60, 'n'), -32},
-    {"ShorterThanTheLongest", Table::kLoaded, string(58, 'n'), -32},
-    {"BehindAnEmptyPlace", Table::kEmptyPlaces, "MPU", 0, 1, kEmptyForType},
-    {"BehindTwoEmptyPlaces", Table::kEmptyPlaces, "swu", 0, 4, kTwoEmptyForType},
-    {"UnknownWithEmptyPlaces", Table::kEmptyPlaces, "none", -32, 77, kTwoEmptyForType},
-    {"LastOfAFullTable", Table::kFull, "100", 0, 100},
-    {"NoTable", Table::kNone, "MPU", -10, 77, kNoneForType},
-    {"NoTableButACount", Table::kNoneButCount, "MPU", -10, 77, kNoneForType},
-    {"CorruptCount", Table::kCorrupt, "MPU", -19, 77, kCorruptForType},
-    {"CorruptCountNoTable", Table::kCorruptNone, "MPU", -19, 77, kCorruptForType},
-    {"LargestCount", Table::kCorruptMost, "MPU", -19, 77,
+    {"First", MainBoardTable::kLoaded, "MPU", 0, 1},
+    {"FirstOfTwo", MainBoardTable::kLoaded, "SWU", 0, 3},
+    {"OtherCaseIsAnotherName", MainBoardTable::kLoaded, "swu", 0, 4},
+    {"LongerName", MainBoardTable::kLoaded, "SWU2", 0, 3},
+    {"Longest", MainBoardTable::kLoaded, string(59, 'n'), 0, 6},
+    {"Empty", MainBoardTable::kLoaded, "", 0, 0xffffffff},
+    {"TypeZero", MainBoardTable::kLoaded, "ZERO", 0, 0},
+    {"StartOfAName", MainBoardTable::kLoaded, "SW", -32},
+    {"MoreThanAName", MainBoardTable::kLoaded, "SWU23", -32},
+    {"NoCaseOfAName", MainBoardTable::kLoaded, "Swu", -32},
+    {"BlankAtTheEnd", MainBoardTable::kLoaded, "SWU ", -32},
+    {"LongerThanAnyName", MainBoardTable::kLoaded, string(60, 'n'), -32},
+    {"ShorterThanTheLongest", MainBoardTable::kLoaded, string(58, 'n'), -32},
+    {"BehindAnEmptyPlace", MainBoardTable::kEmptyPlaces, "MPU", 0, 1, kEmptyForType},
+    {"BehindTwoEmptyPlaces", MainBoardTable::kEmptyPlaces, "swu", 0, 4, kTwoEmptyForType},
+    {"UnknownWithEmptyPlaces", MainBoardTable::kEmptyPlaces, "none", -32, 77, kTwoEmptyForType},
+    {"LastOfAFullTable", MainBoardTable::kFull, "100", 0, 100},
+    {"NoTable", MainBoardTable::kNone, "MPU", -10, 77, kNoneForType},
+    {"NoTableButACount", MainBoardTable::kNoneButCount, "MPU", -10, 77, kNoneForType},
+    {"CorruptCount", MainBoardTable::kCorrupt, "MPU", -19, 77, kCorruptForType},
+    {"CorruptCountNoTable", MainBoardTable::kCorruptNone, "MPU", -19, 77, kCorruptForType},
+    {"LargestCount", MainBoardTable::kCorruptMost, "MPU", -19, 77,
      "\r\nddGetMainBoardTypeByName err!, ulSupportedBoardTypeNum = -1, MAX_OLT_BOARD_TYPE_NUM = "
      "100"},
 };
@@ -181,7 +176,7 @@ INSTANTIATE_TEST_SUITE_P(MainBoards, MainBoardType, testing::ValuesIn(kTypes),
                          testing::PrintToStringParamName());
 
 TEST_F(MainBoardQueries, RecordsWithACorruptNameLengthAreNotFoundByName) {
-  Put(Table::kLoaded);
+  Put(MainBoardTable::kLoaded);
   ddDebugPrint = 1;
   uint32_t type = 77;
   boards_[1].ulNameLen = 61;  // the first SWU
@@ -200,7 +195,7 @@ string NullForType(const void* name, const void* type) {
 }
 
 TEST_F(MainBoardQueries, AsMuchOfTheNameIsComparedAsItsLengthTells) {
-  Put(Table::kLoaded);
+  Put(MainBoardTable::kLoaded);
   boards_[1].ulNameLen = 3;  // SWU, without its terminator
   uint32_t type = 0;
   EXPECT_EQ(ddGetMainBoardTypeByName("SWUxx", &type), 0);
@@ -209,7 +204,7 @@ TEST_F(MainBoardQueries, AsMuchOfTheNameIsComparedAsItsLengthTells) {
 }
 
 TEST_F(MainBoardQueries, TypeWithoutANameOrAResult) {
-  Put(Table::kCorruptNone);  // looked at later only
+  Put(MainBoardTable::kCorruptNone);  // looked at later only
   uint32_t type = 77;
   const char name[] = "MPU";
   EXPECT_EQ(ddGetMainBoardTypeByName(nullptr, &type), -2);
@@ -234,7 +229,7 @@ MainBoardInformation* const kMark = reinterpret_cast<MainBoardInformation*>(uint
 
 struct ObjectRow {
   const char* name;
-  Table table;
+  MainBoardTable table;
   uint32_t type;
   int32_t code;
   int answer;  // place of the board in boards_, or one of the above
@@ -278,20 +273,20 @@ constexpr char kCorruptForObj[] =
 constexpr char kNoneForObj[] = "\r\nddGetMainBoardObjByType err!, pBoardTypeArray = 0x0";
 
 const ObjectRow kObjects[] = {
-    {"First", Table::kLoaded, 1, 0, 0},
-    {"FirstOfTwo", Table::kLoaded, 3, 0, 1},
-    {"TypeZero", Table::kLoaded, 0, 0, 7},
-    {"LargestType", Table::kLoaded, 0xffffffff, 0, 6},
-    {"Unknown", Table::kLoaded, 2, -18, kNull},
-    {"BehindAnEmptyPlace", Table::kEmptyPlaces, 1, 0, 0, kEmptyForObj},
-    {"BehindTwoEmptyPlaces", Table::kEmptyPlaces, 4, 0, 2, kTwoEmptyForObj},
-    {"UnknownWithEmptyPlaces", Table::kEmptyPlaces, 2, -18, kNull, kTwoEmptyForObj},
-    {"LastOfAFullTable", Table::kFull, 100, 0, 99},
-    {"NoTable", Table::kNone, 1, -10, kUntouched, kNoneForObj},
-    {"NoTableButACount", Table::kNoneButCount, 1, -10, kUntouched, kNoneForObj},
-    {"CorruptCount", Table::kCorrupt, 1, -19, kNull, kCorruptForObj},
-    {"CorruptCountNoTable", Table::kCorruptNone, 1, -19, kNull, kCorruptForObj},
-    {"LargestCount", Table::kCorruptMost, 1, -19, kNull,
+    {"First", MainBoardTable::kLoaded, 1, 0, 0},
+    {"FirstOfTwo", MainBoardTable::kLoaded, 3, 0, 1},
+    {"TypeZero", MainBoardTable::kLoaded, 0, 0, 7},
+    {"LargestType", MainBoardTable::kLoaded, 0xffffffff, 0, 6},
+    {"Unknown", MainBoardTable::kLoaded, 2, -18, kNull},
+    {"BehindAnEmptyPlace", MainBoardTable::kEmptyPlaces, 1, 0, 0, kEmptyForObj},
+    {"BehindTwoEmptyPlaces", MainBoardTable::kEmptyPlaces, 4, 0, 2, kTwoEmptyForObj},
+    {"UnknownWithEmptyPlaces", MainBoardTable::kEmptyPlaces, 2, -18, kNull, kTwoEmptyForObj},
+    {"LastOfAFullTable", MainBoardTable::kFull, 100, 0, 99},
+    {"NoTable", MainBoardTable::kNone, 1, -10, kUntouched, kNoneForObj},
+    {"NoTableButACount", MainBoardTable::kNoneButCount, 1, -10, kUntouched, kNoneForObj},
+    {"CorruptCount", MainBoardTable::kCorrupt, 1, -19, kNull, kCorruptForObj},
+    {"CorruptCountNoTable", MainBoardTable::kCorruptNone, 1, -19, kNull, kCorruptForObj},
+    {"LargestCount", MainBoardTable::kCorruptMost, 1, -19, kNull,
      "\r\nddGetMainBoardObjByType err!, ulSupportedBoardTypeNum = -1, MAX_OLT_BOARD_TYPE_NUM = "
      "100"},
 };
@@ -299,7 +294,7 @@ INSTANTIATE_TEST_SUITE_P(MainBoards, MainBoardObject, testing::ValuesIn(kObjects
                          testing::PrintToStringParamName());
 
 TEST_F(MainBoardQueries, RecordsWithACorruptNameLengthAreFoundByType) {
-  Put(Table::kLoaded);
+  Put(MainBoardTable::kLoaded);
   boards_[1].ulNameLen = 61;
   MainBoardInformation* board = kMark;
   EXPECT_EQ(ddGetMainBoardObjByType(3, &board), 0);
@@ -307,7 +302,7 @@ TEST_F(MainBoardQueries, RecordsWithACorruptNameLengthAreFoundByType) {
 }
 
 TEST_F(MainBoardQueries, RecordWithoutAResult) {
-  Put(Table::kCorruptNone);  // looked at later only
+  Put(MainBoardTable::kCorruptNone);  // looked at later only
   EXPECT_EQ(ddGetMainBoardObjByType(1, nullptr), -2);
   EXPECT_EQ(console_.Text(), "");
   ddDebugPrint = 1;
@@ -318,7 +313,7 @@ TEST_F(MainBoardQueries, RecordWithoutAResult) {
 // ---- Empty tables --------------------------------------------------------------
 
 TEST_F(MainBoardQueries, ATableOfNoBoardsKnowsNone) {
-  Put(Table::kLoaded);
+  Put(MainBoardTable::kLoaded);
   gstSupportedMainBoardType.ulSupportedBoardTypeNum = 0;
   ddDebugPrint = 1;
   char name[60] = {};

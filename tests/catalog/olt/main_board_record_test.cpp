@@ -7,6 +7,8 @@
 #include "catalog/olt/main_boards.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/records.h"
+#include "support/text.h"
 
 namespace {
 
@@ -47,7 +49,7 @@ TEST_P(ReadMainBoard, HandsOverARecord) {
     EXPECT_EQ(console_.Text(), "");
     MainBoardInformation expected = test::SectionBoard();
     GetParam().change(expected);
-    test::ExpectBoard(*board, expected);
+    test::ExpectMainBoard(*board, expected);
     EXPECT_EQ(faults.allocations.count(), 1);
     EXPECT_EQ(faults.blocks.at(board), test::kMainBoardSize);
     EXPECT_EQ(faults.closes, faults.opens.count());
@@ -102,11 +104,11 @@ const RecordRow kRecords[] = {
     {"TypeAbove31Bits", "Type=7", "Type=2147483648", Type<0x7fffffff>},
     {"TypeAbove32Bits", "Type=7", "Type=4294967296", Type<0x7fffffff>},
     {"TypeBelow32Bits", "Type=7", "Type=-4294967297", Type<0x80000000>},
-    {"NameEmpty", "=MPU", "=", [](Record& b) { b.ulNameLen = test::Store("", b.acName); }},
+    {"NameEmpty", "=MPU", "=", [](Record& b) { test::StoreName("", b.acName, b.ulNameLen); }},
     {"NameWithBlanks", "=MPU", "=two words",
-     [](Record& b) { b.ulNameLen = test::Store("two words", b.acName); }},
+     [](Record& b) { test::StoreName("two words", b.acName, b.ulNameLen); }},
     {"NameLongest", "=MPU", "=" + string(59, 'n'),
-     [](Record& b) { b.ulNameLen = test::Store(string(59, 'n'), b.acName); }},
+     [](Record& b) { test::StoreName(string(59, 'n'), b.acName, b.ulNameLen); }},
     {"OnePortOfTwo", "LogicPortNum=2", "LogicPortNum=1", OnePortLess},
     {"NoPorts", "LogicPortNum=2", "LogicPortNum=0", NoPorts},
     {"PortCountEmpty", "LogicPortNum=2", "LogicPortNum=", NoPorts},

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "catalog/olt/main_boards.h"
+#include "support/records.h"
 
 namespace {
 
@@ -41,7 +42,7 @@ class SpecialMapTest : public test::MainBoardTest {
   void PutMaps(const std::vector<string>& names) {
     MainBoardInformation& board = boards_[0];
     for (size_t i = 0; i < names.size(); ++i) {
-      test::Store({names[i], {}}, board.astPortMap[i]);
+      test::StoreMap({names[i], {}}, board.astPortMap[i]);
     }
     board.ulChipLogicPortToPhyPortTypeNum = static_cast<uint32_t>(names.size());
   }
@@ -49,7 +50,7 @@ class SpecialMapTest : public test::MainBoardTest {
     for (const auto& [type, name] : boards) {
       BoardInformation board = {};
       board.ulType = type;
-      board.ulNameLen = test::Store(name, board.acName);
+      test::StoreName(name, board.acName, board.ulNameLen);
       service_boards_.push_back(board);
     }
     for (BoardInformation& board : service_boards_) {
@@ -179,9 +180,9 @@ TEST_F(SpecialMapTest, OnlyMapsInUseAreLookedAt) {
 
 TEST_F(SpecialMapTest, LastOfAsManyMapsAsPossible) {
   for (int place = 8; place < 19; ++place) {
-    test::Store({"OTHER", {}}, *Map(place));
+    test::StoreMap({"OTHER", {}}, *Map(place));
   }
-  test::Store({"ETHC", {}}, *Map(19));
+  test::StoreMap({"ETHC", {}}, *Map(19));
   boards_[0].ulChipLogicPortToPhyPortTypeNum = 20;
   Expect(10, 22, 0, Map(19));
   boards_[0].ulChipLogicPortToPhyPortTypeNum = 19;

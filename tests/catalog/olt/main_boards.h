@@ -1,13 +1,12 @@
 // Main boards as a definition file describes them, and as the table holds them.
 #pragma once
 
-#include <cstdio>
 #include <cstring>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "support/records.h"
 #include "support/tables.h"
 #include "sys_context/olt.h"
 
@@ -18,15 +17,6 @@ constexpr size_t kMainBoardSize = 103760;
 static_assert(sizeof(MainBoardInformation) == kMainBoardSize);
 
 // ---- Definition files --------------------------------------------------------
-
-// The keys of a map: the prefix, numbered from 1, and the physical ports.
-inline std::string Wires(const std::string& prefix, const std::vector<std::string>& phy_ports) {
-  std::string text;
-  for (size_t i = 0; i < phy_ports.size(); ++i) {
-    text += prefix + std::to_string(i + 1) + "=" + phy_ports[i] + "\n";
-  }
-  return text;
-}
 
 // The numbers `first`, `first` + 1, ... as values of keys.
 inline std::vector<std::string> Numbers(int first, int count) {
@@ -47,17 +37,8 @@ inline const std::string kSection =
     "SpecialChipLogicPortMapPhyPortCard2=ETHB\n"
     "ETHB_SwitchChipLogicPort1=31\nETHB_SwitchChipLogicPort2=32\n";
 
-// The text with another piece in the place of `from`.
-inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-  const size_t found = text.find(from);
-  if (found == std::string::npos) {
-    throw std::logic_error("no such piece: " + from);
-  }
-  return text.replace(found, from.size(), to);
-}
-
 // A list section that announces `count` boards in the sections S1, S2, ...
-inline std::string BoardList(int count) {
+inline std::string MainBoardList(int count) {
   std::string text =
       "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=" + std::to_string(count) + "\n";
   for (int i = 1; i <= count; ++i) {
@@ -84,44 +65,38 @@ struct Map {
   Pairs pairs;
 };
 
-inline uint32_t Store(const std::string& name, char (&field)[60]) {
-  std::memset(field, 0, sizeof field);
-  std::memcpy(field, name.c_str(), name.size() + 1);
-  return static_cast<uint32_t>(name.size() + 1);
-}
-
-inline void Store(const Map& map, PortMap& record) {
-  record.ulBoardNameLen = Store(map.name, record.acBoardName);
+inline void StoreMap(const Map& map, PortMap& record) {
+  StoreName(map.name, record.acBoardName, record.ulBoardNameLen);
   for (size_t i = 0; i < map.pairs.size(); ++i) {
     record.astPortPair[i] = {map.pairs[i].first, map.pairs[i].second};
   }
 }
 
-inline MainBoardInformation Board(uint32_t type, const std::string& name, uint32_t ports,
-                                  const std::vector<Map>& maps) {
+inline MainBoardInformation MainBoardRecord(uint32_t type, const std::string& name, uint32_t ports,
+                                            const std::vector<Map>& maps) {
   MainBoardInformation board = {};
   board.ulType = type;
-  board.ulNameLen = Store(name, board.acName);
+  StoreName(name, board.acName, board.ulNameLen);
   board.ulSwitchChipLogicPortNum = ports;
   board.ulChipLogicPortToPhyPortTypeNum = static_cast<uint32_t>(maps.size());
   for (size_t i = 0; i < maps.size(); ++i) {
-    Store(maps[i], board.astPortMap[i]);
+    StoreMap(maps[i], board.astPortMap[i]);
   }
   return board;
 }
 
 // What kSection describes.
 inline MainBoardInformation SectionBoard() {
-  return Board(7, "MPU", 2,
-               {{"NoSpecialUplinkBoard", {{1, 11}, {2, 12}}},
-                {"ETHA", {{1, 21}, {2, 22}}},
-                {"ETHB", {{1, 31}, {2, 32}}}});
+  return MainBoardRecord(7, "MPU", 2,
+                         {{"NoSpecialUplinkBoard", {{1, 11}, {2, 12}}},
+                          {"ETHA", {{1, 21}, {2, 22}}},
+                          {"ETHB", {{1, 31}, {2, 32}}}});
 }
 
 // What SmallBoard describes.
 inline MainBoardInformation SmallRecord(int number) {
-  return Board(static_cast<uint32_t>(number), "N" + std::to_string(number), 1,
-               {{"NoSpecialUplinkBoard", {{1, static_cast<uint16_t>(number)}}}});
+  return MainBoardRecord(static_cast<uint32_t>(number), "N" + std::to_string(number), 1,
+                         {{"NoSpecialUplinkBoard", {{1, static_cast<uint16_t>(number)}}}});
 }
 
 inline void ExpectMap(const PortMap& map, const PortMap& expected) {
@@ -134,7 +109,8 @@ inline void ExpectMap(const PortMap& map, const PortMap& expected) {
 }
 
 // Every byte of the record, also of what is not in use.
-inline void ExpectBoard(const MainBoardInformation& board, const MainBoardInformation& expected) {
+inline void ExpectMainBoard(const MainBoardInformation& board,
+                            const MainBoardInformation& expected) {
   if (std::memcmp(&board, &expected, sizeof board) == 0) {
     return;
   }
@@ -151,19 +127,9 @@ inline void ExpectBoard(const MainBoardInformation& board, const MainBoardInform
   }
 }
 
-// ---- Messages ----------------------------------------------------------------
-
-// A pointer, as the card prints it.
-inline std::string Hex(const void* pointer) {
-  char text[20];
-  std::snprintf(text, sizeof text, "0x%x",
-                static_cast<unsigned>(reinterpret_cast<uintptr_t>(pointer) & 0xffffffff));
-  return text;
-}
-
 // ---- Tables ------------------------------------------------------------------
 
-enum class Table {
+enum class MainBoardTable {
   kLoaded,        // eight boards, see below
   kEmptyPlaces,   // the same with an empty place in front of the first and of the second
   kFull,          // 100 boards, of type and name 1 to 100
@@ -184,7 +150,7 @@ class MainBoardTest : public LibraryTest {
   void PutBoards(const std::vector<std::pair<uint32_t, std::string>>& boards) {
     boards_.clear();
     for (const auto& [type, name] : boards) {
-      boards_.push_back(Board(type, name, 0, {{"NoSpecialUplinkBoard", {}}}));
+      boards_.push_back(MainBoardRecord(type, name, 0, {{"NoSpecialUplinkBoard", {}}}));
     }
     places_.clear();
     for (MainBoardInformation& board : boards_) {
@@ -197,33 +163,33 @@ class MainBoardTest : public LibraryTest {
     gstSupportedMainBoardType = {static_cast<uint32_t>(places_.size()), places_.data()};
   }
 
-  void Put(Table table) {
+  void Put(MainBoardTable table) {
     std::vector<std::pair<uint32_t, std::string>> boards = {
         {1, "MPU"},       {3, "SWU"}, {4, "swu"},
         {3, "SWU2"},      {5, "SWU"}, {6, std::string(59, 'n')},
         {0xffffffff, ""}, {0, "ZERO"}};
-    if (table == Table::kFull) {
+    if (table == MainBoardTable::kFull) {
       boards.clear();
       for (uint32_t i = 1; i <= 100; ++i) {
         boards.push_back({i, std::to_string(i)});
       }
     }
     PutBoards(boards);
-    if (table == Table::kEmptyPlaces) {
+    if (table == MainBoardTable::kEmptyPlaces) {
       places_.insert(places_.begin() + 1, nullptr);
       places_.insert(places_.begin(), nullptr);
       ShowPlaces();
     }
     SupportedMainBoardType& shown = gstSupportedMainBoardType;
-    if (table == Table::kNone) {
+    if (table == MainBoardTable::kNone) {
       shown = {};
-    } else if (table == Table::kNoneButCount) {
+    } else if (table == MainBoardTable::kNoneButCount) {
       shown = {3, nullptr};
-    } else if (table == Table::kCorrupt) {
+    } else if (table == MainBoardTable::kCorrupt) {
       shown.ulSupportedBoardTypeNum = 101;
-    } else if (table == Table::kCorruptNone) {
+    } else if (table == MainBoardTable::kCorruptNone) {
       shown = {101, nullptr};
-    } else if (table == Table::kCorruptMost) {
+    } else if (table == MainBoardTable::kCorruptMost) {
       shown.ulSupportedBoardTypeNum = 0xffffffff;
     }
   }

@@ -7,11 +7,13 @@
 #include "support/definition_file.h"
 #include "support/faults.h"
 #include "support/leaks.h"
+#include "support/rows.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
-using test::BoardList;
+using test::MainBoardList;
 using test::SmallBoard;
 
 // ---- Loads that succeed --------------------------------------------------------
@@ -44,7 +46,7 @@ void LoadMainBoards::ExpectBoards(const test::Faults& faults) {
     }
     ASSERT_NE(places[i], nullptr) << i;
     EXPECT_EQ(faults.blocks.at(places[i]), test::kMainBoardSize);
-    test::ExpectBoard(*places[i], test::SmallRecord(boards[i]));
+    test::ExpectMainBoard(*places[i], test::SmallRecord(boards[i]));
   }
   EXPECT_EQ(faults.blocks.size(), boards.size() + 1);  // and nothing else is kept
 }
@@ -71,7 +73,7 @@ const string kS3 = SmallBoard(3);
 
 // A list of three boards whose second one is changed.
 string Second(const string& from, const string& to) {
-  return BoardList(3) + kS1 + test::Replaced(kS2, from, to) + kS3;
+  return MainBoardList(3) + kS1 + test::Replaced(kS2, from, to) + kS3;
 }
 
 string NoListEntry(const string& code, const string& number) {
@@ -108,7 +110,7 @@ std::vector<int> UpTo(int count) {
 }
 
 string Many(int count) {
-  string text = BoardList(count);
+  string text = MainBoardList(count);
   for (int i = 1; i <= count; ++i) {
     text += SmallBoard(i);
   }
@@ -116,14 +118,17 @@ string Many(int count) {
 }
 
 const LoadRow kLoads[] = {
-    {"Three", BoardList(3) + kS1 + kS2 + kS3, 3, {1, 2, 3}},
-    {"SectionsInAnyOrder", kS3 + BoardList(3) + kS2 + kS1, 3, {1, 2, 3}},
-    {"NumberWithText", test::Replaced(BoardList(1), "Num=1", "Num= +1x") + kS1, 1, {1}},
-    {"MoreListedThanAnnounced", test::Replaced(BoardList(2), "Num=2", "Num=1") + kS1 + kS2, 1, {1}},
+    {"Three", MainBoardList(3) + kS1 + kS2 + kS3, 3, {1, 2, 3}},
+    {"SectionsInAnyOrder", kS3 + MainBoardList(3) + kS2 + kS1, 3, {1, 2, 3}},
+    {"NumberWithText", test::Replaced(MainBoardList(1), "Num=1", "Num= +1x") + kS1, 1, {1}},
+    {"MoreListedThanAnnounced",
+     test::Replaced(MainBoardList(2), "Num=2", "Num=1") + kS1 + kS2,
+     1,
+     {1}},
     {"AsManyAsPossible", Many(100), 100, UpTo(100)},
-    {"SameSectionTwice", test::Replaced(BoardList(2), "=S2", "=S1") + kS1, 2, {1, 1}},
+    {"SameSectionTwice", test::Replaced(MainBoardList(2), "=S2", "=S1") + kS1, 2, {1, 1}},
     {"ListEntryMissing",
-     test::Replaced(BoardList(3), "SupportedMainBoardType2=S2\n", "") + kS1 + kS2 + kS3,
+     test::Replaced(MainBoardList(3), "SupportedMainBoardType2=S2\n", "") + kS1 + kS2 + kS3,
      3,
      {1, 3},
      NoListEntry("-2", "2")},
@@ -133,18 +138,18 @@ const LoadRow kLoads[] = {
      {},
      NoListEntry("-2", "1") + NoListEntry("-2", "2")},
     {"BrokenEntryInTheList",
-     test::Replaced(BoardList(2), "=S1\n", "=S1\nnonsense\n") + kS1 + kS2,
+     test::Replaced(MainBoardList(2), "=S1\n", "=S1\nnonsense\n") + kS1 + kS2,
      2,
      {1},
      NoListEntry("-14", "2")},
-    {"EntryNamesNoSection", BoardList(3) + kS1 + kS3, 3, {1, 3}, NoType("S2", "-1")},
+    {"EntryNamesNoSection", MainBoardList(3) + kS1 + kS3, 3, {1, 3}, NoType("S2", "-1")},
     {"EntryIsEmpty",
-     test::Replaced(BoardList(2), "=S1", "=") + kS1 + kS2,
+     test::Replaced(MainBoardList(2), "=S1", "=") + kS1 + kS2,
      2,
      {2},
      NoType("", "-1")},
-    {"FirstAndLastFail", BoardList(3) + kS2, 3, {2}, NoType("S1", "-1") + NoType("S3", "-1")},
-    {"AllFail", BoardList(2), 2, {}, NoType("S1", "-1") + NoType("S2", "-1")},
+    {"FirstAndLastFail", MainBoardList(3) + kS2, 3, {2}, NoType("S1", "-1") + NoType("S3", "-1")},
+    {"AllFail", MainBoardList(2), 2, {}, NoType("S1", "-1") + NoType("S2", "-1")},
     {"TypeMissing", Second("Type=2\n", ""), 3, {1, 3}, NoType("S2", "-2")},
     {"NameMissing",
      Second("Name=N2\n", ""),
@@ -244,7 +249,7 @@ TEST_P(FailToLoadMainBoards, ClearsTheCountAlone) {
 }
 
 string Announce(const string& number) {
-  return test::Replaced(BoardList(1), "Num=1", "Num=" + number) + kS1;
+  return test::Replaced(MainBoardList(1), "Num=1", "Num=" + number) + kS1;
 }
 string TooMany(const string& number) {
   return "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = " + number +
@@ -277,19 +282,11 @@ const FailRow kFails[] = {
 INSTANTIATE_TEST_SUITE_P(MainBoards, FailToLoadMainBoards, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());
 
-struct EmptyRow {
-  const char* name;
-  string number;
-  friend std::ostream& operator<<(std::ostream& out, const EmptyRow& row) {
-    return out << row.name;
-  }
-};
-
 class EmptyListOfMainBoards : public test::MainBoardTest,
-                              public testing::WithParamInterface<EmptyRow> {};
+                              public testing::WithParamInterface<test::ZeroRow> {};
 
 TEST_P(EmptyListOfMainBoards, IsReportedAndLeavesNoArray) {
-  const test::DefinitionFile file(Announce(GetParam().number));
+  const test::DefinitionFile file(Announce(GetParam().text));
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
     gstSupportedMainBoardType = {9, kOldArray};
@@ -304,10 +301,7 @@ TEST_P(EmptyListOfMainBoards, IsReportedAndLeavesNoArray) {
   }
 }
 
-const EmptyRow kEmptyLists[] = {
-    {"Zero", "0"}, {"Empty", ""}, {"Text", "many"}, {"Hexadecimal", "0x1"}, {"MinusZero", "-0"},
-};
-INSTANTIATE_TEST_SUITE_P(MainBoards, EmptyListOfMainBoards, testing::ValuesIn(kEmptyLists),
+INSTANTIATE_TEST_SUITE_P(MainBoards, EmptyListOfMainBoards, testing::ValuesIn(test::kZeros),
                          testing::PrintToStringParamName());
 
 using MainBoards = test::MainBoardTest;
@@ -335,8 +329,8 @@ TEST_F(MainBoards, MissingFile) {
 class MainBoardReload : public test::LibraryTest {};
 
 TEST_F(MainBoardReload, ForgetsTheFirstBoards) {
-  const test::DefinitionFile first(BoardList(2) + kS1 + kS2);
-  const test::DefinitionFile second(BoardList(1) + kS1);
+  const test::DefinitionFile first(MainBoardList(2) + kS1 + kS2);
+  const test::DefinitionFile second(MainBoardList(1) + kS1);
   test::Faults faults;
   ASSERT_EQ(ddReadAllSupportedMainBoardInformation(first.path()), 0);
   ASSERT_EQ(ddReadAllSupportedMainBoardInformation(second.path()), 0);

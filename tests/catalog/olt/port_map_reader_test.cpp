@@ -8,15 +8,17 @@
 #include "catalog/olt/main_boards.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/records.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
 using test::Hex;
 using test::kSection;
+using test::Numbered;
 using test::Numbers;
 using test::Replaced;
-using test::Wires;
 
 class PortMaps : public test::LibraryTest {
  protected:
@@ -38,7 +40,7 @@ MainBoardInformation Marked() {
   MainBoardInformation board = {};
   board.ulType = 71;
   board.ulSubType = 72;
-  board.ulNameLen = test::Store("MARK", board.acName);
+  test::StoreName("MARK", board.acName, board.ulNameLen);
   board.ulSwitchChipLogicPortNum = 73;
   board.ulChipLogicPortToPhyPortTypeNum = 5;
   return board;
@@ -58,20 +60,20 @@ MainBoardInformation MarkedWith(const MainBoardInformation& board, uint32_t port
 TEST_F(PortMaps, CountsOfAnEarlierReadAreReplaced) {
   board_ = Marked();
   EXPECT_EQ(ReadAll(kSection), 0);
-  test::ExpectBoard(board_, MarkedWith(test::SectionBoard(), 2, 3));
+  test::ExpectMainBoard(board_, MarkedWith(test::SectionBoard(), 2, 3));
   EXPECT_EQ(console_.Text(), "");
 }
 
 TEST_F(PortMaps, AsManyPortsAsPossible) {
   EXPECT_EQ(
       ReadAll("[Sec]\nSwitchChipLogicPortNum=1280\nSpecialChipLogicPortMapPhyPortCardNum=0\n" +
-              Wires("SwitchChipLogicPort", Numbers(1001, 1280))),
+              Numbered("SwitchChipLogicPort", Numbers(1001, 1280))),
       0);
   EXPECT_EQ(console_.Text(), "");
   EXPECT_EQ(board_.ulSwitchChipLogicPortNum, 1280u);
   EXPECT_EQ(board_.ulChipLogicPortToPhyPortTypeNum, 1u);
   PortMap expected = {};
-  test::Store({"NoSpecialUplinkBoard", {}}, expected);
+  test::StoreMap({"NoSpecialUplinkBoard", {}}, expected);
   EXPECT_EQ(expected.ulBoardNameLen, 21u);
   for (uint32_t i = 0; i < 1280; ++i) {
     expected.astPortPair[i] = {static_cast<uint16_t>((i + 1) % 256),
@@ -83,8 +85,8 @@ TEST_F(PortMaps, AsManyPortsAsPossible) {
 TEST_F(PortMaps, EveryMapHasAsManyPorts) {
   EXPECT_EQ(ReadAll("[Sec]\nSwitchChipLogicPortNum=300\nSpecialChipLogicPortMapPhyPortCardNum=1\n"
                     "SpecialChipLogicPortMapPhyPortCard1=ETHA\n" +
-                    Wires("SwitchChipLogicPort", Numbers(1, 300)) +
-                    Wires("ETHA_SwitchChipLogicPort", Numbers(500, 301))),
+                    Numbered("SwitchChipLogicPort", Numbers(1, 300)) +
+                    Numbered("ETHA_SwitchChipLogicPort", Numbers(500, 301))),
             0);
   EXPECT_EQ(board_.ulChipLogicPortToPhyPortTypeNum, 2u);
   for (const auto& [map, first] : {std::pair{0, 1}, std::pair{1, 500}}) {
@@ -137,7 +139,7 @@ TEST_P(FailToReadAllPortMaps, KeepsWhatWasRead) {
     Fail(faults, GetParam());
     EXPECT_EQ(ReadAll(Replaced(kSection, GetParam().from, GetParam().to)), GetParam().code);
     EXPECT_EQ(console_.Text(), GetParam().console);
-    test::ExpectBoard(board_, Stored(GetParam()));
+    test::ExpectMainBoard(board_, Stored(GetParam()));
     EXPECT_EQ(faults.allocations.count(), 0);
     EXPECT_EQ(faults.closes, faults.opens.count() - (GetParam().failing_open != 0 ? 1 : 0));
   }
@@ -170,11 +172,11 @@ void NoMap(MainBoardInformation& all) {
 }
 void FirstPairOnly(MainBoardInformation& all) {
   NoMap(all);
-  test::Store({"NoSpecialUplinkBoard", {{1, 11}}}, all.astPortMap[0]);
+  test::StoreMap({"NoSpecialUplinkBoard", {{1, 11}}}, all.astPortMap[0]);
 }
 void DefaultNameOnly(MainBoardInformation& all) {
   NoMap(all);
-  test::Store({"NoSpecialUplinkBoard", {}}, all.astPortMap[0]);
+  test::StoreMap({"NoSpecialUplinkBoard", {}}, all.astPortMap[0]);
 }
 
 const FailRow kFails[] = {
@@ -227,7 +229,7 @@ TEST_F(PortMaps, NullArgumentsOfAllMaps) {
     EXPECT_EQ(console_.Text(), NullForAll(path, section, nullptr));
     EXPECT_EQ(faults.opens.count(), 0);
   }
-  test::ExpectBoard(board_, Marked());
+  test::ExpectMainBoard(board_, Marked());
 }
 
 // ---- Special maps ----------------------------------------------------------------
@@ -237,7 +239,7 @@ TEST_F(PortMaps, SpecialMapsAddToTheCount) {
   EXPECT_EQ(ReadSpecial(kSection, 2), 0);
   MainBoardInformation all = test::SectionBoard();
   all.astPortMap[0] = {};
-  test::ExpectBoard(board_, MarkedWith(all, 73, 7));
+  test::ExpectMainBoard(board_, MarkedWith(all, 73, 7));
   EXPECT_EQ(console_.Text(), "");
 }
 
@@ -245,9 +247,9 @@ TEST_F(PortMaps, SpecialMapsHaveThePortsOfTheCall) {
   board_ = Marked();
   EXPECT_EQ(ReadSpecial(kSection, 1), 0);
   MainBoardInformation all =
-      test::Board(0, "", 0, {{"", {}}, {"ETHA", {{1, 21}}}, {"ETHB", {{1, 31}}}});
+      test::MainBoardRecord(0, "", 0, {{"", {}}, {"ETHA", {{1, 21}}}, {"ETHB", {{1, 31}}}});
   all.astPortMap[0] = {};
-  test::ExpectBoard(board_, MarkedWith(all, 73, 7));
+  test::ExpectMainBoard(board_, MarkedWith(all, 73, 7));
 }
 
 TEST_F(PortMaps, SpecialMapsWithoutPorts) {
@@ -255,18 +257,18 @@ TEST_F(PortMaps, SpecialMapsWithoutPorts) {
                         "SpecialChipLogicPortMapPhyPortCard1=ETHA\n",
                         0),
             0);
-  MainBoardInformation expected = test::Board(0, "", 0, {{"", {}}, {"ETHA", {}}});
+  MainBoardInformation expected = test::MainBoardRecord(0, "", 0, {{"", {}}, {"ETHA", {}}});
   expected.ulNameLen = 0;
   expected.astPortMap[0] = {};
   expected.ulChipLogicPortToPhyPortTypeNum = 1;
-  test::ExpectBoard(board_, expected);
+  test::ExpectMainBoard(board_, expected);
 }
 
 TEST_F(PortMaps, NoSpecialMapsLeaveTheCount) {
   for (const char* const number : {"0", "", "none", "0x1"}) {
     board_ = Marked();
     EXPECT_EQ(ReadSpecial(string("[Sec]\nSpecialChipLogicPortMapPhyPortCardNum=") + number, 2), 0);
-    test::ExpectBoard(board_, Marked());
+    test::ExpectMainBoard(board_, Marked());
   }
   EXPECT_EQ(console_.Text(), "");
 }
@@ -277,7 +279,7 @@ string SpecialMaps(int count) {
   for (int i = 1; i <= count; ++i) {
     const string n = std::to_string(i);
     text += "SpecialChipLogicPortMapPhyPortCard" + n + "=U" + n + "\n";
-    text += Wires("U" + n + "_SwitchChipLogicPort", Numbers(i * 10, 1));
+    text += Numbered("U" + n + "_SwitchChipLogicPort", Numbers(i * 10, 1));
   }
   return text;
 }
@@ -289,7 +291,7 @@ TEST_F(PortMaps, AsManySpecialMapsAsPossible) {
   EXPECT_EQ(board_.ulChipLogicPortToPhyPortTypeNum, 20u);
   for (int i = 1; i <= 19; ++i) {
     PortMap expected = {};
-    test::Store({"U" + std::to_string(i), {{1, static_cast<uint16_t>(i * 10)}}}, expected);
+    test::StoreMap({"U" + std::to_string(i), {{1, static_cast<uint16_t>(i * 10)}}}, expected);
     test::ExpectMap(board_.astPortMap[i], expected);
   }
 }
@@ -306,11 +308,11 @@ TEST_P(SpecialMapName, BeginsItsKeys) {
   const string& name = GetParam().board;
   EXPECT_EQ(ReadSpecial("[Sec]\nSpecialChipLogicPortMapPhyPortCardNum=1\n"
                         "SpecialChipLogicPortMapPhyPortCard1=" +
-                            name + "\n" + Wires(name + "_SwitchChipLogicPort", {"41", "42"}),
+                            name + "\n" + Numbered(name + "_SwitchChipLogicPort", {"41", "42"}),
                         2),
             0);
   PortMap expected = {};
-  test::Store({name, {{1, 41}, {2, 42}}}, expected);
+  test::StoreMap({name, {{1, 41}, {2, 42}}}, expected);
   test::ExpectMap(board_.astPortMap[1], expected);
   EXPECT_EQ(console_.Text(), "");
 }
@@ -344,7 +346,7 @@ TEST_P(FailToReadSpecialPortMaps, KeepsWhatWasRead) {
     EXPECT_EQ(console_.Text(), GetParam().console);
     MainBoardInformation expected = Stored(GetParam());
     expected.astPortMap[0] = {};
-    test::ExpectBoard(board_, expected);
+    test::ExpectMainBoard(board_, expected);
     EXPECT_EQ(faults.closes, faults.opens.count() - (GetParam().failing_open != 0 ? 1 : 0));
   }
 }
@@ -368,7 +370,7 @@ TEST_P(FailToReadSpecialPortMaps, FailsAllMaps) {
   MainBoardInformation expected = Stored(GetParam());
   expected.ulSwitchChipLogicPortNum = 2;
   expected.ulChipLogicPortToPhyPortTypeNum = 1;
-  test::ExpectBoard(board_, expected);
+  test::ExpectMainBoard(board_, expected);
 }
 
 string NoSpecialCount(const string& code) {
@@ -408,11 +410,11 @@ void FirstSpecialOnly(MainBoardInformation& all) {
 }
 void FirstSpecialPairOnly(MainBoardInformation& all) {
   DefaultOnly(all);
-  test::Store({"ETHA", {{1, 21}}}, all.astPortMap[1]);
+  test::StoreMap({"ETHA", {{1, 21}}}, all.astPortMap[1]);
 }
 void FirstSpecialNameOnly(MainBoardInformation& all) {
   DefaultOnly(all);
-  test::Store({"ETHA", {}}, all.astPortMap[1]);
+  test::StoreMap({"ETHA", {}}, all.astPortMap[1]);
 }
 void SecondSpecialPairMissing(MainBoardInformation& all) {
   all.astPortMap[2].astPortPair[1] = {};
@@ -490,7 +492,7 @@ TEST_F(PortMaps, NullArgumentsOfSpecialMaps) {
     EXPECT_EQ(console_.Text(), NullForSpecial(path, section, nullptr));
     EXPECT_EQ(faults.opens.count(), 0);
   }
-  test::ExpectBoard(board_, Marked());
+  test::ExpectMainBoard(board_, Marked());
 }
 
 // ---- One map ---------------------------------------------------------------------

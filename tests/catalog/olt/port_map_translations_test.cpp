@@ -8,6 +8,7 @@
 #include "catalog/olt/main_boards.h"
 #include "catalog/olt/port_map_queries.h"
 #include "support/definition_file.h"
+#include "support/text.h"
 
 namespace {
 
@@ -72,7 +73,7 @@ class Translations : public test::LibraryTest, public testing::WithParamInterfac
     for (uint32_t i = 0; i < GetParam(); ++i) {
       values.push_back(std::to_string(Wire(i)));
     }
-    const test::DefinitionFile file("[Sec]\n" + test::Wires("P", values));
+    const test::DefinitionFile file("[Sec]\n" + test::Numbered("P", values));
     ASSERT_EQ(ddReadOneSwitchChipLogicPortToPhyPort(file.path(), "Sec", GetParam(), "P",
                                                     map_->astPortPair),
               0);

@@ -1,6 +1,7 @@
 // Copies of OLT port types by name. A lookup in front of the library's own gives
 // the answers that it never gives.
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -8,6 +9,7 @@
 
 #include "catalog/olt/port_types.h"
 #include "support/faults.h"
+#include "support/text.h"
 
 namespace {
 
@@ -42,8 +44,8 @@ int32_t __wrap_ddIsOltPortTypeSupportedByName(const char* name, uint32_t* is_sup
 namespace {
 
 using std::string;
-using test::Pointer;
-using test::PortTypes;
+using test::Hex;
+using test::PortTypeTable;
 
 OltPortInformation* const kUntouched = reinterpret_cast<OltPortInformation*>(0x1234);
 const string k59(59, 'p');
@@ -88,7 +90,7 @@ void PortTypeCopies::ExpectCopy(const string& name, const OltPortInformation& re
 
 struct CopyRow {
   const char* name;
-  PortTypes types;
+  PortTypeTable types;
   string asked;
   size_t record;
   friend std::ostream& operator<<(std::ostream& out, const CopyRow& row) { return out << row.name; }
@@ -105,21 +107,21 @@ TEST_P(CopyPortType, ByName) {
 }
 
 const CopyRow kCopies[] = {
-    {"FirstOfTwo", PortTypes::kLoaded, "GPON", 0},
-    {"Second", PortTypes::kLoaded, "XGPON", 1},
-    {"OtherCaseIsAnotherName", PortTypes::kLoaded, "gpon", 2},
-    {"LongestName", PortTypes::kLoaded, k59, 4},
-    {"EmptyName", PortTypes::kLoaded, "", 5},
-    {"RatioTooLarge", PortTypes::kLoaded, "ZERO", 6},
-    {"RatioFarTooLarge", PortTypes::kLoaded, "WIDE", 7},
-    {"BehindEmptyPlaces", PortTypes::kEmptyPlaces, "XGPON", 1},
-    {"LastOfAFullTable", PortTypes::kFull, "T30", 29},
+    {"FirstOfTwo", PortTypeTable::kLoaded, "GPON", 0},
+    {"Second", PortTypeTable::kLoaded, "XGPON", 1},
+    {"OtherCaseIsAnotherName", PortTypeTable::kLoaded, "gpon", 2},
+    {"LongestName", PortTypeTable::kLoaded, k59, 4},
+    {"EmptyName", PortTypeTable::kLoaded, "", 5},
+    {"RatioTooLarge", PortTypeTable::kLoaded, "ZERO", 6},
+    {"RatioFarTooLarge", PortTypeTable::kLoaded, "WIDE", 7},
+    {"BehindEmptyPlaces", PortTypeTable::kEmptyPlaces, "XGPON", 1},
+    {"LastOfAFullTable", PortTypeTable::kFull, "T30", 29},
 };
 INSTANTIATE_TEST_SUITE_P(PortTypes, CopyPortType, testing::ValuesIn(kCopies),
                          testing::PrintToStringParamName());
 
 TEST_F(PortTypeCopies, EveryCopyIsABlockOfItsOwn) {
-  Put(PortTypes::kLoaded);
+  Put(PortTypeTable::kLoaded);
   OltPortInformation* first = nullptr;
   OltPortInformation* second = nullptr;
   ASSERT_EQ(ddCreateOneOltPortObjByName("GPON", &first), 0);
@@ -135,7 +137,7 @@ TEST_F(PortTypeCopies, EveryCopyIsABlockOfItsOwn) {
 
 struct FailRow {
   const char* name;
-  PortTypes types;
+  PortTypeTable types;
   string asked;
   int32_t code;
   string debug_console;  // the lookup's words, in front
@@ -164,24 +166,24 @@ string LookupFailed(const string& code, const string& name) {
 }
 
 const FailRow kFails[] = {
-    {"NameTooLong", PortTypes::kLoaded, k60, -33, "",
+    {"NameTooLong", PortTypeTable::kLoaded, k60, -33, "",
      "\r\nddCreateOneOltPortObjByName err! strlen(strOltPortTypeName) = 60"},
-    {"NameFarTooLong", PortTypes::kLoaded, string(1000, 'p'), -33, "",
+    {"NameFarTooLong", PortTypeTable::kLoaded, string(1000, 'p'), -33, "",
      "\r\nddCreateOneOltPortObjByName err! strlen(strOltPortTypeName) = 1000"},
-    {"NameTooLongForACorruptCount", PortTypes::kCorrupt, k60, -33, "",
+    {"NameTooLongForACorruptCount", PortTypeTable::kCorrupt, k60, -33, "",
      "\r\nddCreateOneOltPortObjByName err! strlen(strOltPortTypeName) = 60"},
-    {"Unknown", PortTypes::kLoaded, "EPON", -32, "", LookupFailed("-32", "EPON")},
-    {"UnknownAndLongest", PortTypes::kLoaded, string(59, 'q'), -32, "",
+    {"Unknown", PortTypeTable::kLoaded, "EPON", -32, "", LookupFailed("-32", "EPON")},
+    {"UnknownAndLongest", PortTypeTable::kLoaded, string(59, 'q'), -32, "",
      LookupFailed("-32", string(59, 'q'))},
-    {"OtherCase", PortTypes::kLoaded, "Gpon", -32, "", LookupFailed("-32", "Gpon")},
-    {"EmptyNameIsUnknown", PortTypes::kFull, "", -32, "", LookupFailed("-32", "")},
-    {"CorruptCount", PortTypes::kCorrupt, "GPON", -11,
+    {"OtherCase", PortTypeTable::kLoaded, "Gpon", -32, "", LookupFailed("-32", "Gpon")},
+    {"EmptyNameIsUnknown", PortTypeTable::kFull, "", -32, "", LookupFailed("-32", "")},
+    {"CorruptCount", PortTypeTable::kCorrupt, "GPON", -11,
      "\r\nddIsOltPortTypeSupportedByName err! ulSupportedOltPortTypeNum = 31",
      LookupFailed("-11", "GPON")},
-    {"NoArray", PortTypes::kNone, "GPON", -11,
+    {"NoArray", PortTypeTable::kNone, "GPON", -11,
      "\r\nddIsOltPortTypeSupportedByName err! pOltPortTypeArray = 0x0",
      LookupFailed("-11", "GPON")},
-    {"CorruptLength", PortTypes::kLengthTooLarge, "WIDE", -33,
+    {"CorruptLength", PortTypeTable::kLengthTooLarge, "WIDE", -33,
      "\r\nddIsOltPortTypeSupportedByName err! ulNameLen = 61, ulSupportedOltPortTypeNumIndex = 2",
      LookupFailed("-33", "WIDE")},
 };
@@ -189,12 +191,12 @@ INSTANTIATE_TEST_SUITE_P(PortTypes, FailToCopyPortType, testing::ValuesIn(kFails
                          testing::PrintToStringParamName());
 
 string NullArgument(const void* name, const void* output) {
-  return "\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = " + Pointer(name) +
-         ", pulOltPortTypeObjAddr = " + Pointer(output);
+  return "\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = " + Hex(name) +
+         ", pulOltPortTypeObjAddr = " + Hex(output);
 }
 
 TEST_F(PortTypeCopies, NullArgumentsTouchNothing) {
-  Put(PortTypes::kLoaded);
+  Put(PortTypeTable::kLoaded);
   const char* const name = k60.c_str();  // looked at later only
   OltPortInformation* copy = kUntouched;
   for (const int32_t debug : {0, 1}) {
@@ -214,7 +216,7 @@ TEST_F(PortTypeCopies, NullArgumentsTouchNothing) {
 }
 
 TEST_F(PortTypeCopies, NoMemory) {
-  Put(PortTypes::kEmptyPlaces);
+  Put(PortTypeTable::kEmptyPlaces);
   for (const int32_t debug : {0, 1}) {
     for (const int calls : {1, test::FaultPlan::kForEver}) {
       ddDebugPrint = debug;
@@ -249,7 +251,7 @@ struct AnswerRow {
 class OddAnswer : public PortTypeCopies, public testing::WithParamInterface<AnswerRow> {};
 
 TEST_P(OddAnswer, IsRefused) {
-  Put(PortTypes::kEmptyPlaces);  // without records from place 10 on
+  Put(PortTypeTable::kEmptyPlaces);  // without records from place 10 on
   slots_.resize(40);
   gstSupportedOltPortType.pOltPortTypeArray = slots_.data();
   scripted = GetParam().answer;
@@ -321,8 +323,8 @@ INSTANTIATE_TEST_SUITE_P(PortTypes, OddAnswer, testing::ValuesIn(kAnswers),
 
 // The bound lets one place more through than a table has.
 TEST_F(PortTypeCopies, OnePastTheCapacityIsLetThrough) {
-  Put(PortTypes::kFull);
-  OltPortInformation beyond = test::PortType(31, "T31", 131);
+  Put(PortTypeTable::kFull);
+  OltPortInformation beyond = test::PortTypeRecord(31, "T31", 131);
   slots_.push_back(&beyond);
   gstSupportedOltPortType.pOltPortTypeArray = slots_.data();
   scripted = Answer{0, 1, 30};
@@ -331,14 +333,14 @@ TEST_F(PortTypeCopies, OnePastTheCapacityIsLetThrough) {
 
 // The place that the lookup gives decides, not the name.
 TEST_F(PortTypeCopies, ThePlaceDecides) {
-  Put(PortTypes::kLoaded);
+  Put(PortTypeTable::kLoaded);
   scripted = Answer{0, 1, 4};
   ExpectCopy("GPON", records_[4]);
 }
 
 // As many bytes as the record says, be there a terminator among them or not.
 TEST_F(PortTypeCopies, TheStoredLengthIsCopied) {
-  Put(PortTypes::kLoaded);
+  Put(PortTypeTable::kLoaded);
   records_[1].ulNameLen = 2;  // "XG"
   ExpectCopy("XGXXX", records_[1]);
   scripted = Answer{0, 1, 4};

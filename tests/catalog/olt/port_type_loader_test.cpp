@@ -7,6 +7,7 @@
 #include "support/definition_file.h"
 #include "support/faults.h"
 #include "support/leaks.h"
+#include "support/rows.h"
 
 namespace {
 
@@ -77,11 +78,6 @@ void LoadPortTypes::ExpectTable(const test::Faults& faults) {
   const auto count = static_cast<uint32_t>(GetParam().records.size());
   ASSERT_EQ(gstSupportedOltPortType.ulSupportedOltPortTypeNum, count);
   OltPortInformation** const places = gstSupportedOltPortType.pOltPortTypeArray;
-  if (GetParam().announced == 0) {
-    EXPECT_EQ(places, nullptr);
-    EXPECT_EQ(faults.allocations.count(), 0);
-    return;
-  }
   ASSERT_NE(places, nullptr);
   EXPECT_EQ(faults.blocks.at(places), GetParam().announced * sizeof(OltPortInformation*));
   for (uint32_t i = 0; i < count; ++i) {
@@ -118,9 +114,6 @@ const std::vector<Type> kWithoutSecond = {{1, "N1", 10}, {3, "N3", 30}};
 const std::vector<Type> kFirstOnly = {{1, "N1", 10}};
 const string k59(59, 'n');
 const string k60(60, 'n');
-
-constexpr char kNoneAnnounced[] =
-    "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 0";
 
 // A list that announces `number` port types and has the first one.
 string AnnounceOne(const string& number) {
@@ -164,11 +157,6 @@ const LoadRow kLists[] = {
     {"Three", ThreePortTypes(kS1 + kS2 + kS3), 3, kAllThree},
     {"SectionsInAnyOrder", kS3 + kS2 + ThreePortTypes(kS1), 3, kAllThree},
     {"ListAtTheEnd", kS3 + kS1 + kS2 + ThreePortTypes(""), 3, kAllThree},
-    {"NoneAnnounced", AnnounceOne("0"), 0, {}, kNoneAnnounced},
-    {"EmptyNumber", AnnounceOne(""), 0, {}, kNoneAnnounced},
-    {"NumberIsText", AnnounceOne("many"), 0, {}, kNoneAnnounced},
-    {"NumberIsHexadecimal", AnnounceOne("0x1"), 0, {}, kNoneAnnounced},
-    {"NumberIsMinusZero", AnnounceOne("-0"), 0, {}, kNoneAnnounced},
     {"NumberWithText", AnnounceOne(" +1x"), 1, kFirstOnly},
     {"MoreListedThanAnnounced",
      AnnouncePortTypes("1") + "SupportedOltPortType1=S1\nSupportedOltPortType2=S2\n" + kS1 + kS2, 1,
@@ -350,20 +338,6 @@ TEST_F(PortTypeLoader, MissingFile) {
   EXPECT_EQ(gstSupportedOltPortType.ulSupportedOltPortTypeNum, 0u);
 }
 
-TEST_F(PortTypeLoader, NoneAnnouncedLeavesNoArray) {
-  const test::DefinitionFile file(AnnounceOne("0"));
-  for (const int32_t debug : {0, 1}) {
-    OltPortInformation* place = nullptr;
-    ddDebugPrint = debug;
-    gstSupportedOltPortType = {9, &place};
-    EXPECT_EQ(ddReadAllSupportedOltPortInformation(file.path()), 0);
-    EXPECT_EQ(gstSupportedOltPortType.ulSupportedOltPortTypeNum, 0u);
-    EXPECT_EQ(gstSupportedOltPortType.pOltPortTypeArray, nullptr);
-    gstSupportedOltPortType = {};
-    EXPECT_EQ(console_.Text(), kNoneAnnounced);
-  }
-}
-
 TEST_F(PortTypeLoader, NullPath) {
   OltPortInformation* place = nullptr;
   for (const int32_t debug : {0, 1}) {
@@ -391,6 +365,29 @@ TEST_F(PortTypeLoader, ASecondLoadForgetsTheFirst) {
   EXPECT_EQ(gstSupportedOltPortType.ulSupportedOltPortTypeNum, 1u);
   test::ExpectAndReleaseLost(faults, 4);
 }
+
+class LoadNoPortTypes : public PortTypeLoader, public testing::WithParamInterface<test::ZeroRow> {};
+
+TEST_P(LoadNoPortTypes, LeavesNoArray) {
+  const test::DefinitionFile file(AnnounceOne(GetParam().text));
+  for (const int32_t debug : {0, 1}) {
+    OltPortInformation* place = nullptr;
+    ddDebugPrint = debug;
+    gstSupportedOltPortType = {9, &place};
+    test::Faults faults;
+    EXPECT_EQ(ddReadAllSupportedOltPortInformation(file.path()), 0);
+    EXPECT_EQ(gstSupportedOltPortType.ulSupportedOltPortTypeNum, 0u);
+    EXPECT_EQ(gstSupportedOltPortType.pOltPortTypeArray, nullptr);
+    gstSupportedOltPortType = {};
+    EXPECT_EQ(console_.Text(),
+              "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 0");
+    EXPECT_EQ(faults.allocations.count(), 0);
+    EXPECT_EQ(faults.opens.count(), 1);
+    EXPECT_EQ(faults.closes, 1);
+  }
+}
+INSTANTIATE_TEST_SUITE_P(Lists, LoadNoPortTypes, testing::ValuesIn(test::kZeros),
+                         testing::PrintToStringParamName());
 
 // ---- What was loaded, asked for ----------------------------------------------------
 

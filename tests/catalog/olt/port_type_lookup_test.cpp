@@ -4,16 +4,17 @@
 #include <vector>
 
 #include "catalog/olt/port_types.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
-using test::Pointer;
-using test::PortTypes;
+using test::Hex;
+using test::PortTypeTable;
 
 struct LookupRow {
   const char* name;
-  PortTypes types;
+  PortTypeTable types;
   string asked;
   int32_t code;
   uint32_t index = 0;
@@ -45,27 +46,27 @@ const string k59(59, 'p');
 const string k60(60, 'p');
 
 const LookupRow kNames[] = {
-    {"FirstOfTwo", PortTypes::kLoaded, "GPON", 0, 0},
-    {"Second", PortTypes::kLoaded, "XGPON", 0, 1},
-    {"OtherCaseIsAnotherName", PortTypes::kLoaded, "gpon", 0, 2},
-    {"Longest", PortTypes::kLoaded, k59, 0, 4},
-    {"Empty", PortTypes::kLoaded, "", 0, 5},
-    {"Last", PortTypes::kLoaded, "WIDE", 0, 7},
-    {"StartOfAName", PortTypes::kLoaded, "GPO", -32},
-    {"EndOfAName", PortTypes::kLoaded, "PON", -32},
-    {"MoreThanAName", PortTypes::kLoaded, "GPONS", -32},
-    {"NoCaseOfAName", PortTypes::kLoaded, "Gpon", -32},
-    {"BlankAtTheEnd", PortTypes::kLoaded, "GPON ", -32},
-    {"TraceBehindAName", PortTypes::kLoaded, "GPON#", -32},
-    {"OneLessThanTheLongest", PortTypes::kLoaded, string(58, 'p'), -32},
-    {"OtherOfTheLongest", PortTypes::kLoaded, string(58, 'p') + "P", -32},
-    {"Unknown", PortTypes::kLoaded, "EPON", -32},
-    {"BehindAnEmptyPlace", PortTypes::kEmptyPlaces, "GPON", 0, 1},
-    {"BehindTwoEmptyPlaces", PortTypes::kEmptyPlaces, "XGPON", 0, 3},
-    {"UnknownWithEmptyPlaces", PortTypes::kEmptyPlaces, "EPON", -32},
-    {"FirstOfAFullTable", PortTypes::kFull, "T1", 0, 0},
-    {"LastOfAFullTable", PortTypes::kFull, "T30", 0, 29},
-    {"NoRecords", PortTypes::kNoRecords, "GPON", -32},
+    {"FirstOfTwo", PortTypeTable::kLoaded, "GPON", 0, 0},
+    {"Second", PortTypeTable::kLoaded, "XGPON", 0, 1},
+    {"OtherCaseIsAnotherName", PortTypeTable::kLoaded, "gpon", 0, 2},
+    {"Longest", PortTypeTable::kLoaded, k59, 0, 4},
+    {"Empty", PortTypeTable::kLoaded, "", 0, 5},
+    {"Last", PortTypeTable::kLoaded, "WIDE", 0, 7},
+    {"StartOfAName", PortTypeTable::kLoaded, "GPO", -32},
+    {"EndOfAName", PortTypeTable::kLoaded, "PON", -32},
+    {"MoreThanAName", PortTypeTable::kLoaded, "GPONS", -32},
+    {"NoCaseOfAName", PortTypeTable::kLoaded, "Gpon", -32},
+    {"BlankAtTheEnd", PortTypeTable::kLoaded, "GPON ", -32},
+    {"TraceBehindAName", PortTypeTable::kLoaded, "GPON#", -32},
+    {"OneLessThanTheLongest", PortTypeTable::kLoaded, string(58, 'p'), -32},
+    {"OtherOfTheLongest", PortTypeTable::kLoaded, string(58, 'p') + "P", -32},
+    {"Unknown", PortTypeTable::kLoaded, "EPON", -32},
+    {"BehindAnEmptyPlace", PortTypeTable::kEmptyPlaces, "GPON", 0, 1},
+    {"BehindTwoEmptyPlaces", PortTypeTable::kEmptyPlaces, "XGPON", 0, 3},
+    {"UnknownWithEmptyPlaces", PortTypeTable::kEmptyPlaces, "EPON", -32},
+    {"FirstOfAFullTable", PortTypeTable::kFull, "T1", 0, 0},
+    {"LastOfAFullTable", PortTypeTable::kFull, "T30", 0, 29},
+    {"NoRecords", PortTypeTable::kNoRecords, "GPON", -32},
 };
 INSTANTIATE_TEST_SUITE_P(Names, PortTypeLookup, testing::ValuesIn(kNames),
                          testing::PrintToStringParamName());
@@ -79,22 +80,22 @@ constexpr char kLength61[] =
     "\r\nddIsOltPortTypeSupportedByName err! ulNameLen = 61, ulSupportedOltPortTypeNumIndex = 2";
 
 const LookupRow kRefusals[] = {
-    {"NameTooLong", PortTypes::kLoaded, k60, -33, 0, kName60},
-    {"NameFarTooLong", PortTypes::kLoaded, string(1000, 'p'), -33, 0,
+    {"NameTooLong", PortTypeTable::kLoaded, k60, -33, 0, kName60},
+    {"NameFarTooLong", PortTypeTable::kLoaded, string(1000, 'p'), -33, 0,
      "\r\nddIsOltPortTypeSupportedByName err! strlen(strOltPortTypeName) = 1000"},
-    {"NameTooLongForACorruptCount", PortTypes::kCorrupt, k60, -33, 0, kName60},
-    {"NameTooLongForNoArray", PortTypes::kNone, k60, -33, 0, kName60},
-    {"CorruptCount", PortTypes::kCorrupt, "GPON", -11, 0, kCount31},
-    {"CorruptCountAndNoArray", PortTypes::kCorruptNone, "GPON", -11, 0, kCount31},
-    {"LargestCount", PortTypes::kCorruptMost, "GPON", -11, 0,
+    {"NameTooLongForACorruptCount", PortTypeTable::kCorrupt, k60, -33, 0, kName60},
+    {"NameTooLongForNoArray", PortTypeTable::kNone, k60, -33, 0, kName60},
+    {"CorruptCount", PortTypeTable::kCorrupt, "GPON", -11, 0, kCount31},
+    {"CorruptCountAndNoArray", PortTypeTable::kCorruptNone, "GPON", -11, 0, kCount31},
+    {"LargestCount", PortTypeTable::kCorruptMost, "GPON", -11, 0,
      "\r\nddIsOltPortTypeSupportedByName err! ulSupportedOltPortTypeNum = -1"},
-    {"NoArray", PortTypes::kNone, "GPON", -11, 0, kNoArray},
-    {"NoArrayButACount", PortTypes::kNoneButCount, "GPON", -11, 0, kNoArray},
-    {"InFrontOfACorruptLength", PortTypes::kLengthTooLarge, "XGPON", 0, 1},
-    {"AtACorruptLength", PortTypes::kLengthTooLarge, "gpon", -33, 0, kLength61},
-    {"BehindACorruptLength", PortTypes::kLengthTooLarge, "WIDE", -33, 0, kLength61},
-    {"UnknownWithACorruptLength", PortTypes::kLengthTooLarge, "EPON", -33, 0, kLength61},
-    {"LargestLength", PortTypes::kLengthFarTooLarge, "WIDE", -33, 0,
+    {"NoArray", PortTypeTable::kNone, "GPON", -11, 0, kNoArray},
+    {"NoArrayButACount", PortTypeTable::kNoneButCount, "GPON", -11, 0, kNoArray},
+    {"InFrontOfACorruptLength", PortTypeTable::kLengthTooLarge, "XGPON", 0, 1},
+    {"AtACorruptLength", PortTypeTable::kLengthTooLarge, "gpon", -33, 0, kLength61},
+    {"BehindACorruptLength", PortTypeTable::kLengthTooLarge, "WIDE", -33, 0, kLength61},
+    {"UnknownWithACorruptLength", PortTypeTable::kLengthTooLarge, "EPON", -33, 0, kLength61},
+    {"LargestLength", PortTypeTable::kLengthFarTooLarge, "WIDE", -33, 0,
      "\r\nddIsOltPortTypeSupportedByName err! ulNameLen = -1, ulSupportedOltPortTypeNumIndex = 2"},
 };
 INSTANTIATE_TEST_SUITE_P(Refusals, PortTypeLookup, testing::ValuesIn(kRefusals),
@@ -103,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Refusals, PortTypeLookup, testing::ValuesIn(kRefusals),
 using PortTypeNames = test::PortTypesTest;
 
 TEST_F(PortTypeNames, PlacesOfACorruptLengthCountEmptyOnes) {
-  Put(PortTypes::kEmptyPlaces);
+  Put(PortTypeTable::kEmptyPlaces);
   records_[2].ulNameLen = 61;  // at place 4
   ddDebugPrint = 1;
   uint32_t is_supported = 77;
@@ -117,7 +118,7 @@ TEST_F(PortTypeNames, PlacesOfACorruptLengthCountEmptyOnes) {
 }
 
 TEST_F(PortTypeNames, OnlyTheStoredLengthIsCompared) {
-  Put(PortTypes::kLoaded);
+  Put(PortTypeTable::kLoaded);
   records_[1].ulNameLen = 2;  // "XG"
   uint32_t is_supported = 77;
   uint32_t index = 77;
@@ -130,13 +131,13 @@ TEST_F(PortTypeNames, OnlyTheStoredLengthIsCompared) {
 }
 
 string NullArgument(const void* name, const void* is_supported, const void* index) {
-  return "\r\nddIsOltPortTypeSupportedByName err! strOltPortTypeName = " + Pointer(name) +
-         ", pIsSupported = " + Pointer(is_supported) + ", pIndex = " + Pointer(index);
+  return "\r\nddIsOltPortTypeSupportedByName err! strOltPortTypeName = " + Hex(name) +
+         ", pIsSupported = " + Hex(is_supported) + ", pIndex = " + Hex(index);
 }
 
 TEST_F(PortTypeNames, NullArgumentsTouchNothing) {
-  Put(PortTypes::kCorruptNone);  // looked at later only
-  const string long_name = k60;  // and so is this
+  Put(PortTypeTable::kCorruptNone);  // looked at later only
+  const string long_name = k60;      // and so is this
   const char* const name = long_name.c_str();
   uint32_t is_supported = 77;
   uint32_t index = 78;

@@ -7,11 +7,11 @@
 namespace {
 
 using std::string;
-using test::PortTypes;
+using test::PortTypeTable;
 
 struct RatioRow {
   const char* name;
-  PortTypes types;
+  PortTypeTable types;
   uint32_t type;
   int32_t code;
   uint32_t ratio = 0;
@@ -38,35 +38,35 @@ constexpr char kCount31[] =
     "\r\nddGetOltPortSplittingRatioByType err! ulSupportedOltPortTypeNum = 31";
 
 const RatioRow kRatios[] = {
-    {"FirstOfTwo", PortTypes::kLoaded, 1, 0, 64},
-    {"Second", PortTypes::kLoaded, 2, 0, 128},
-    {"LargestRatio", PortTypes::kLoaded, 4, 0, 512},
-    {"SameLow8Bits", PortTypes::kFull, 0x101, -12},
-    {"SameLow16Bits", PortTypes::kFull, 0x10001, -12},
-    {"SameLow31Bits", PortTypes::kFull, 0x80000001, -12},
-    {"NoOnus", PortTypes::kLoaded, 0xffffffff, 0, 0},
-    {"RatioTooLargeIsGivenAllTheSame", PortTypes::kLoaded, 0, 0, 513,
+    {"FirstOfTwo", PortTypeTable::kLoaded, 1, 0, 64},
+    {"Second", PortTypeTable::kLoaded, 2, 0, 128},
+    {"LargestRatio", PortTypeTable::kLoaded, 4, 0, 512},
+    {"SameLow8Bits", PortTypeTable::kFull, 0x101, -12},
+    {"SameLow16Bits", PortTypeTable::kFull, 0x10001, -12},
+    {"SameLow31Bits", PortTypeTable::kFull, 0x80000001, -12},
+    {"NoOnus", PortTypeTable::kLoaded, 0xffffffff, 0, 0},
+    {"RatioTooLargeIsGivenAllTheSame", PortTypeTable::kLoaded, 0, 0, 513,
      "\r\nddGetOltPortSplittingRatioByType err! ulPortType = 0, ulSplittingRatio = 513, "
      "DD_MAX_ONU_NUM_PER_PON = 512"},
-    {"RatioFarTooLargeIsGivenAllTheSame", PortTypes::kLoaded, 5, 0, 0xffffffff,
+    {"RatioFarTooLargeIsGivenAllTheSame", PortTypeTable::kLoaded, 5, 0, 0xffffffff,
      "\r\nddGetOltPortSplittingRatioByType err! ulPortType = 5, ulSplittingRatio = -1, "
      "DD_MAX_ONU_NUM_PER_PON = 512"},
-    {"Unknown", PortTypes::kLoaded, 6, -12},
-    {"BehindEmptyPlaces", PortTypes::kEmptyPlaces, 2, 0, 128},
-    {"FirstOfTwoBehindAnEmptyPlace", PortTypes::kEmptyPlaces, 1, 0, 64},
-    {"UnknownWithEmptyPlaces", PortTypes::kEmptyPlaces, 6, -12},
-    {"NamesAreNotLookedAt", PortTypes::kLengthTooLarge, 3, 0, 16},
-    {"FirstOfAFullTable", PortTypes::kFull, 1, 0, 101},
-    {"LastOfAFullTable", PortTypes::kFull, 30, 0, 130},
-    {"UnknownToAFullTable", PortTypes::kFull, 31, -12},
-    {"NoRecords", PortTypes::kNoRecords, 1, -12},
-    {"NoArray", PortTypes::kNone, 9, -10, 0,
+    {"Unknown", PortTypeTable::kLoaded, 6, -12},
+    {"BehindEmptyPlaces", PortTypeTable::kEmptyPlaces, 2, 0, 128},
+    {"FirstOfTwoBehindAnEmptyPlace", PortTypeTable::kEmptyPlaces, 1, 0, 64},
+    {"UnknownWithEmptyPlaces", PortTypeTable::kEmptyPlaces, 6, -12},
+    {"NamesAreNotLookedAt", PortTypeTable::kLengthTooLarge, 3, 0, 16},
+    {"FirstOfAFullTable", PortTypeTable::kFull, 1, 0, 101},
+    {"LastOfAFullTable", PortTypeTable::kFull, 30, 0, 130},
+    {"UnknownToAFullTable", PortTypeTable::kFull, 31, -12},
+    {"NoRecords", PortTypeTable::kNoRecords, 1, -12},
+    {"NoArray", PortTypeTable::kNone, 9, -10, 0,
      "\r\nddGetOltPortSplittingRatioByType err! ulPortType = 9, pOltPortTypeArray = 0x0"},
-    {"NoArrayButACount", PortTypes::kNoneButCount, 0xffffffff, -10, 0,
+    {"NoArrayButACount", PortTypeTable::kNoneButCount, 0xffffffff, -10, 0,
      "\r\nddGetOltPortSplittingRatioByType err! ulPortType = -1, pOltPortTypeArray = 0x0"},
-    {"CorruptCount", PortTypes::kCorrupt, 1, -11, 0, kCount31},
-    {"CorruptCountAndNoArray", PortTypes::kCorruptNone, 1, -11, 0, kCount31},
-    {"LargestCount", PortTypes::kCorruptMost, 1, -11, 0,
+    {"CorruptCount", PortTypeTable::kCorrupt, 1, -11, 0, kCount31},
+    {"CorruptCountAndNoArray", PortTypeTable::kCorruptNone, 1, -11, 0, kCount31},
+    {"LargestCount", PortTypeTable::kCorruptMost, 1, -11, 0,
      "\r\nddGetOltPortSplittingRatioByType err! ulSupportedOltPortTypeNum = -1"},
 };
 INSTANTIATE_TEST_SUITE_P(Types, PortTypeRatio, testing::ValuesIn(kRatios),
@@ -76,7 +76,7 @@ using PortTypeRatios = test::PortTypesTest;
 
 // The message names an argument that the function does not have.
 TEST_F(PortTypeRatios, NullResult) {
-  Put(PortTypes::kCorruptNone);  // looked at later only
+  Put(PortTypeTable::kCorruptNone);  // looked at later only
   EXPECT_EQ(ddGetOltPortSplittingRatioByType(1, nullptr), -2);
   EXPECT_EQ(console_.Text(), "");
   ddDebugPrint = 1;
@@ -86,7 +86,7 @@ TEST_F(PortTypeRatios, NullResult) {
 
 // Of two records of a type the first one is complained about, or none.
 TEST_F(PortTypeRatios, OnlyTheAnsweringRecordIsComplainedAbout) {
-  Put(PortTypes::kLoaded);
+  Put(PortTypeTable::kLoaded);
   ddDebugPrint = 1;
   uint32_t ratio = 77;
   records_[2].ulSplittingRatio = 600;  // the second one of type 1

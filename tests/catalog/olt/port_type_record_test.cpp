@@ -7,11 +7,12 @@
 #include "catalog/olt/port_types.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
-using test::Pointer;
+using test::Hex;
 using test::PortTypeSection;
 
 OltPortInformation* const kUntouched = reinterpret_cast<OltPortInformation*>(0x1234);
@@ -241,9 +242,8 @@ class PortTypeRecord : public test::LibraryTest {
 };
 
 string NullArgument(const void* file, const void* section, const void* output) {
-  return "\r\nddReadOneSupportedOltPortInformation err! strFileName = " + Pointer(file) +
-         ", strOltPortTypeSection = " + Pointer(section) +
-         ", pOltPortTypeObjAddr = " + Pointer(output);
+  return "\r\nddReadOneSupportedOltPortInformation err! strFileName = " + Hex(file) +
+         ", strOltPortTypeSection = " + Hex(section) + ", pOltPortTypeObjAddr = " + Hex(output);
 }
 
 TEST_F(PortTypeRecord, NullArgumentsTouchNothing) {

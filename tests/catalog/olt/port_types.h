@@ -1,12 +1,13 @@
 // OLT port types: as definition files describe them, and as a query may find them.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstring>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "support/records.h"
 #include "support/tables.h"
 #include "sys_context/olt.h"
 
@@ -31,19 +32,9 @@ inline std::string ThreePortTypes(const std::string& sections) {
          sections;
 }
 
-// ---- In a message ------------------------------------------------------------
-
-// A pointer as the card prints it: the low 32 bits.
-inline std::string Pointer(const void* pointer) {
-  char text[20];
-  std::snprintf(text, sizeof text, "0x%x",
-                static_cast<unsigned>(reinterpret_cast<uintptr_t>(pointer) & 0xffffffff));
-  return text;
-}
-
 // ---- In the table ------------------------------------------------------------
 
-enum class PortTypes {
+enum class PortTypeTable {
   kLoaded,             // eight records, see below
   kEmptyPlaces,        // the same with empty places at 0 and 2
   kLengthTooLarge,     // the same; the name length of the third one is 61
@@ -58,12 +49,11 @@ enum class PortTypes {
 };
 
 // Behind the name, and in the reserved word, are traces that no copy may take over.
-inline OltPortInformation PortType(uint32_t type, const std::string& name, uint32_t ratio) {
+inline OltPortInformation PortTypeRecord(uint32_t type, const std::string& name, uint32_t ratio) {
   OltPortInformation record = {};
   record.ulPortType = type;
-  record.ulNameLen = static_cast<uint32_t>(name.size() + 1);
-  std::memset(record.acName, '#', sizeof record.acName);
-  std::memcpy(record.acName, name.c_str(), name.size() + 1);
+  StoreName(name, record.acName, record.ulNameLen);
+  std::fill(record.acName + record.ulNameLen, std::end(record.acName), '#');
   record.ulSplittingRatio = ratio;
   record.ulLink = 0x5a5a;
   return record;
@@ -76,20 +66,20 @@ class PortTypesTest : public LibraryTest {
     LibraryTest::TearDown();
   }
 
-  void Put(PortTypes types) {
-    records_ = types == PortTypes::kFull ? Thirty() : Eight();
+  void Put(PortTypeTable types) {
+    records_ = types == PortTypeTable::kFull ? Thirty() : Eight();
     slots_.clear();
     for (OltPortInformation& record : records_) {
       slots_.push_back(&record);
     }
-    if (types == PortTypes::kEmptyPlaces) {
+    if (types == PortTypeTable::kEmptyPlaces) {
       slots_.insert(slots_.begin(), nullptr);
       slots_.insert(slots_.begin() + 2, nullptr);
     }
-    if (types == PortTypes::kLengthTooLarge) {
+    if (types == PortTypeTable::kLengthTooLarge) {
       records_[2].ulNameLen = 61;
     }
-    if (types == PortTypes::kLengthFarTooLarge) {
+    if (types == PortTypeTable::kLengthFarTooLarge) {
       records_[2].ulNameLen = 0xffffffff;
     }
     gstSupportedOltPortType = {Count(types), HasArray(types) ? slots_.data() : nullptr};
@@ -101,44 +91,44 @@ class PortTypesTest : public LibraryTest {
 
  private:
   static std::vector<OltPortInformation> Eight() {
-    return {PortType(1, "GPON", 64),
-            PortType(2, "XGPON", 128),
-            PortType(1, "gpon", 32),
-            PortType(3, "GPON", 16),
-            PortType(4, std::string(59, 'p'), 512),
-            PortType(0xffffffff, "", 0),
-            PortType(0, "ZERO", 513),
-            PortType(5, "WIDE", 0xffffffff)};
+    return {PortTypeRecord(1, "GPON", 64),
+            PortTypeRecord(2, "XGPON", 128),
+            PortTypeRecord(1, "gpon", 32),
+            PortTypeRecord(3, "GPON", 16),
+            PortTypeRecord(4, std::string(59, 'p'), 512),
+            PortTypeRecord(0xffffffff, "", 0),
+            PortTypeRecord(0, "ZERO", 513),
+            PortTypeRecord(5, "WIDE", 0xffffffff)};
   }
 
   static std::vector<OltPortInformation> Thirty() {
     std::vector<OltPortInformation> records;
     for (uint32_t i = 1; i <= 30; ++i) {
-      records.push_back(PortType(i, "T" + std::to_string(i), 100 + i));
+      records.push_back(PortTypeRecord(i, "T" + std::to_string(i), 100 + i));
     }
     return records;
   }
 
-  uint32_t Count(PortTypes types) const {
+  uint32_t Count(PortTypeTable types) const {
     switch (types) {
-      case PortTypes::kNone:
-      case PortTypes::kNoRecords:
+      case PortTypeTable::kNone:
+      case PortTypeTable::kNoRecords:
         return 0;
-      case PortTypes::kNoneButCount:
+      case PortTypeTable::kNoneButCount:
         return 3;
-      case PortTypes::kCorrupt:
-      case PortTypes::kCorruptNone:
+      case PortTypeTable::kCorrupt:
+      case PortTypeTable::kCorruptNone:
         return 31;
-      case PortTypes::kCorruptMost:
+      case PortTypeTable::kCorruptMost:
         return 0xffffffff;
       default:
         return static_cast<uint32_t>(slots_.size());
     }
   }
 
-  static bool HasArray(PortTypes types) {
-    return types != PortTypes::kNone && types != PortTypes::kNoneButCount &&
-           types != PortTypes::kCorruptNone;
+  static bool HasArray(PortTypeTable types) {
+    return types != PortTypeTable::kNone && types != PortTypeTable::kNoneButCount &&
+           types != PortTypeTable::kCorruptNone;
   }
 };
 

@@ -6,6 +6,7 @@
 
 #include "catalog/olt/service_boards.h"
 #include "support/leaks.h"
+#include "support/text.h"
 
 namespace {
 
@@ -276,7 +277,7 @@ TEST_P(ServiceBoardLookups, OneFails) {
       BoardFaults faults(kFile, debug);
       (faults.*GetParam().plan).FailFrom(static_cast<int>(failing), 1);
       Failure failure = Lookups()[failing - 1];
-      failure.console = With(failure.console, GetParam().code);
+      failure.console = With(failure.console, "%", GetParam().code);
       ExpectFailure(faults, failure);
       EXPECT_EQ(faults.closes, faults.opens.count() - GetParam().not_closed);
       if (HasFailure()) {
@@ -298,7 +299,7 @@ TEST_P(ServiceBoardLookups, NoneSucceedsFromOneOn) {
       failure.kept = kNone;
       failure.console += NoListKey("SupportedBoardType2");
     }
-    failure.console = With(failure.console, GetParam().code);
+    failure.console = With(failure.console, "%", GetParam().code);
     ExpectFailure(faults, failure);
     if (HasFailure()) {
       return;

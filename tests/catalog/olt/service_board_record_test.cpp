@@ -6,13 +6,14 @@
 
 #include "catalog/olt/service_boards.h"
 #include "support/leaks.h"
+#include "support/text.h"
 
 namespace {
 
 using std::string;
-using test::Board;
 using test::BoardFaults;
 using test::BoardSection;
+using test::ExpectedBoard;
 using test::Names;
 
 BoardInformation* const kUntouched = reinterpret_cast<BoardInformation*>(uintptr_t{0x1234});
@@ -44,14 +45,14 @@ class ServiceBoardTest : public test::LibraryTest {
 struct ReadRow {
   const char* name;
   string file;
-  Board board;
+  ExpectedBoard board;
   friend std::ostream& operator<<(std::ostream& out, const ReadRow& row) { return out << row.name; }
 };
 
 class ReadServiceBoard : public ServiceBoardTest, public testing::WithParamInterface<ReadRow> {};
 
 TEST_P(ReadServiceBoard, HandsOverARecord) {
-  const Board& expected = GetParam().board;
+  const ExpectedBoard& expected = GetParam().board;
   for (const int32_t debug : {0, 1}) {
     BoardFaults faults(GetParam().file, debug);
     BoardInformation* board = kUntouched;
@@ -59,7 +60,7 @@ TEST_P(ReadServiceBoard, HandsOverARecord) {
     ASSERT_EQ(ddReadOneSupportedBoardInformation(BoardFaults::kPath, "Sec", 0, &board), 0);
 
     EXPECT_EQ(console_.Text(), "");
-    test::ExpectBoard(faults, board, expected);
+    test::ExpectServiceBoard(faults, board, expected);
     EXPECT_EQ(faults.OwnBlocks(), test::BlocksOf(expected));
     EXPECT_EQ(faults.opens.count(),
               static_cast<int>(4 + expected.serving.size() + expected.special.size()));
@@ -71,7 +72,7 @@ TEST_P(ReadServiceBoard, HandsOverARecord) {
 string Sec(const string& type, const string& name = "N") {
   return BoardSection("Sec", type, name, {"GPON"}, {"GE"});
 }
-Board SecBoard(uint32_t type, const string& name = "N") {
+ExpectedBoard SecBoard(uint32_t type, const string& name = "N") {
   return {type, name, {"GPON"}, {"GE"}};
 }
 
@@ -117,7 +118,7 @@ TEST_F(ServiceBoardRecord, AsManyPortsAsPossible) {
   BoardFaults faults(file);
   BoardInformation* board = nullptr;
   ASSERT_EQ(ddReadOneSupportedBoardInformation(BoardFaults::kPath, "Sec", 0, &board), 0);
-  test::ExpectBoard(faults, board, {1, "N", k128, Names(128, "GE")});
+  test::ExpectServiceBoard(faults, board, {1, "N", k128, Names(128, "GE")});
   EXPECT_EQ(ddFreeOneBoardAllObj(board), 0);
   EXPECT_EQ(faults.OwnBlocks(), 256u);
   test::ExpectAndReleaseLost(faults, 256);  // the copies of both full lists
@@ -135,9 +136,9 @@ TEST_F(ServiceBoardRecord, EveryKeyIsSearchedFromThePosition) {
                                                  static_cast<int32_t>(start), &board),
               0);
     if (start == 0) {
-      test::ExpectBoard(faults, board, {1, "First", {"GPON"}, {"GE"}});
+      test::ExpectServiceBoard(faults, board, {1, "First", {"GPON"}, {"GE"}});
     } else {
-      test::ExpectBoard(faults, board, {2, "Second", {"GE", "XGSPON"}, {"GPON", "GPON"}});
+      test::ExpectServiceBoard(faults, board, {2, "Second", {"GE", "XGSPON"}, {"GPON", "GPON"}});
     }
     ExpectToRelease(faults, board);
   }

@@ -2,28 +2,29 @@
 // that describe them, and what is expected of their records.
 #pragma once
 
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/faults.h"
+#include "support/records.h"
 #include "support/tables.h"
+#include "support/text.h"
 #include "sys_context/olt.h"
 
 namespace test {
 
 // ---- Port types ---------------------------------------------------------------
 
-struct PortType {
+struct KnownPortType {
   std::string name;
   uint32_t type;
   uint32_t ratio;
 };
 
-inline const std::vector<PortType>& PortTypes() {
-  static const std::vector<PortType> types = {
+inline const std::vector<KnownPortType>& KnownPortTypes() {
+  static const std::vector<KnownPortType> types = {
       {"GPON", 11, 128}, {"XGSPON", 12, 256}, {"GE", 13, 0}, {std::string(59, 'p'), 0xffffffff, 1}};
   return types;
 }
@@ -33,11 +34,10 @@ T* ZeroedBlocks(size_t count) {
   return static_cast<T*>(std::calloc(count, sizeof(T)));
 }
 
-inline OltPortInformation* NewPort(const PortType& type) {
+inline OltPortInformation* NewPort(const KnownPortType& type) {
   auto* const port = ZeroedBlocks<OltPortInformation>(1);
   port->ulPortType = type.type;
-  port->ulNameLen = static_cast<uint32_t>(type.name.size() + 1);
-  std::memcpy(port->acName, type.name.c_str(), type.name.size() + 1);
+  StoreName(type.name, port->acName, port->ulNameLen);
   port->ulSplittingRatio = type.ratio;
   port->ulLink = 0x4c4b;  // not for copies
   return port;
@@ -47,36 +47,29 @@ inline OltPortInformation* NewPort(const PortType& type) {
 struct BoardFaults : Faults {
   static constexpr char kPath[] = "/boards.ini";
 
-  // `file` is what the library finds at kPath. It is the caller's.
-  explicit BoardFaults(const std::string& file = "", int32_t debug = 0) {
+  // `file` is what the library finds at kPath.
+  explicit BoardFaults(std::string file = "", int32_t debug = 0) : text(std::move(file)) {
     ResetTables();
     ddDebugPrint = debug;
-    const size_t count = PortTypes().size();
+    const size_t count = KnownPortTypes().size();
     gstSupportedOltPortType = {static_cast<uint32_t>(count),
                                ZeroedBlocks<OltPortInformation*>(count)};
     for (size_t i = 0; i < count; ++i) {
-      gstSupportedOltPortType.pOltPortTypeArray[i] = NewPort(PortTypes()[i]);
+      gstSupportedOltPortType.pOltPortTypeArray[i] = NewPort(KnownPortTypes()[i]);
     }
     allocations = {};
-    contents[kPath] = file;
+    contents[kPath] = text;
   }
 
   // The blocks that the port types do not account for.
-  size_t OwnBlocks() const { return blocks.size() - (PortTypes().size() + 1); }
+  size_t OwnBlocks() const { return blocks.size() - (KnownPortTypes().size() + 1); }
+
+  const std::string text;  // of the file
 };
 
 // ---- Files --------------------------------------------------------------------
 
 using Names = std::vector<std::string>;
-
-// "<prefix>1=<first>\n<prefix>2=<second>\n..."
-inline std::string Numbered(const std::string& prefix, const Names& values) {
-  std::string text;
-  for (size_t i = 0; i < values.size(); ++i) {
-    text += prefix + std::to_string(i + 1) + "=" + values[i] + "\n";
-  }
-  return text;
-}
 
 inline std::string ServingPorts(const Names& ports) {
   return "PortNum=" + std::to_string(ports.size()) + "\n" + Numbered("NameKeyPort", ports);
@@ -102,7 +95,7 @@ inline std::string BoardList(const Names& sections) {
 
 // ---- Records ------------------------------------------------------------------
 
-struct Board {
+struct ExpectedBoard {
   uint32_t type;
   std::string name;
   Names serving;
@@ -110,8 +103,8 @@ struct Board {
 };
 
 inline void ExpectCopy(const OltPortInformation& port, const std::string& name) {
-  const PortType* expected = nullptr;
-  for (const PortType& type : PortTypes()) {
+  const KnownPortType* expected = nullptr;
+  for (const KnownPortType& type : KnownPortTypes()) {
     if (type.name == name) {
       expected = &type;
     }
@@ -151,8 +144,8 @@ inline void ExpectPortsOrNone(const Faults& faults, uint32_t count, OltPortInfor
   }
 }
 
-inline void ExpectBoard(const Faults& faults, const BoardInformation* board,
-                        const Board& expected) {
+inline void ExpectServiceBoard(const Faults& faults, const BoardInformation* board,
+                               const ExpectedBoard& expected) {
   ASSERT_EQ(faults.blocks.count(const_cast<BoardInformation*>(board)), 1u);
   EXPECT_EQ(faults.blocks.at(const_cast<BoardInformation*>(board)), sizeof(BoardInformation));
   EXPECT_EQ(board->ulType, expected.type);
@@ -168,28 +161,9 @@ inline void ExpectBoard(const Faults& faults, const BoardInformation* board,
 }
 
 // The blocks that such a board consists of.
-inline size_t BlocksOf(const Board& board) {
+inline size_t BlocksOf(const ExpectedBoard& board) {
   const auto list = [](const Names& names) { return names.empty() ? 0 : names.size() + 1; };
   return 1 + list(board.serving) + list(board.special);
-}
-
-// ---- Messages -----------------------------------------------------------------
-
-// A pointer as the card prints it.
-inline std::string Hex(const void* pointer) {
-  char text[20];
-  std::snprintf(text, sizeof text, "0x%x",
-                static_cast<unsigned>(reinterpret_cast<uintptr_t>(pointer) & 0xffffffff));
-  return text;
-}
-
-// The text with every `%` replaced.
-inline std::string With(std::string text, const std::string& value) {
-  for (size_t place = 0; (place = text.find('%', place)) != std::string::npos;) {
-    text.replace(place, 1, value);
-    place += value.size();
-  }
-  return text;
 }
 
 }  // namespace test

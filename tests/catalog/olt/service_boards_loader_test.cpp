@@ -7,6 +7,7 @@
 
 #include "catalog/olt/service_boards.h"
 #include "support/leaks.h"
+#include "support/rows.h"
 #include "sys_context/cfgfile.h"
 
 // What the search for the largest PON board finds when it is called; it fails
@@ -32,10 +33,10 @@ int32_t __wrap_ddFindSupportedBoardMaxPonNum() {
 namespace {
 
 using std::string;
-using test::Board;
 using test::BoardFaults;
 using test::BoardList;
 using test::BoardSection;
+using test::ExpectedBoard;
 using test::Names;
 
 BoardInformation** const kOldArray = reinterpret_cast<BoardInformation**>(uintptr_t{0x1230});
@@ -56,7 +57,8 @@ class ServiceBoardsTest : public test::LibraryTest {
   }
 
   // The array has these boards at its start, and nothing else.
-  void ExpectBoards(const BoardFaults& faults, size_t announced, const std::vector<Board>& boards) {
+  void ExpectBoards(const BoardFaults& faults, size_t announced,
+                    const std::vector<ExpectedBoard>& boards) {
     BoardInformation** const slots = gstSupportedBoardType.pBoardTypeArray;
     ASSERT_EQ(faults.blocks.count(slots), 1u);
     EXPECT_EQ(faults.blocks.at(slots), announced * sizeof(BoardInformation*));
@@ -68,7 +70,7 @@ class ServiceBoardsTest : public test::LibraryTest {
         continue;
       }
       ASSERT_NE(slots[i], nullptr);
-      test::ExpectBoard(faults, slots[i], boards[i]);
+      test::ExpectServiceBoard(faults, slots[i], boards[i]);
       blocks += test::BlocksOf(boards[i]);
     }
     EXPECT_EQ(faults.OwnBlocks() - test::LostBlocks(faults).size(), blocks);
@@ -88,7 +90,7 @@ struct LoadRow {
   const char* name;
   string file;
   size_t announced;
-  std::vector<Board> boards;
+  std::vector<ExpectedBoard> boards;
   string console = "";
   size_t lost = 0;  // copies of serving ports that are not released
   friend std::ostream& operator<<(std::ostream& out, const LoadRow& row) { return out << row.name; }
@@ -119,7 +121,7 @@ TEST_P(LoadServiceBoards, KeepsWhatReadsWell) {
 string S(const string& number) {
   return BoardSection("S" + number, number, "N" + number, {"GPON", "GE"}, {"XGSPON"});
 }
-Board B(uint32_t number) {
+ExpectedBoard B(uint32_t number) {
   return {number, "N" + std::to_string(number), {"GPON", "GE"}, {"XGSPON"}};
 }
 const Names kS123 = {"S1", "S2", "S3"};
@@ -131,8 +133,8 @@ const string kDecoy3 = BoardSection("S3", "93", "Decoy", {"GE"});
 string WithSecond(const string& second) {
   return BoardList(kS123) + S("1") + second + S("3");
 }
-const std::vector<Board> kAllThree = {B(1), B(2), B(3)};
-const std::vector<Board> kWithoutSecond = {B(1), B(3)};
+const std::vector<ExpectedBoard> kAllThree = {B(1), B(2), B(3)};
+const std::vector<ExpectedBoard> kWithoutSecond = {B(1), B(3)};
 const string k59(59, 'n');
 const string k60(60, 'n');
 
@@ -151,8 +153,8 @@ string ManyBoards(int count) {
   }
   return BoardList(sections) + text;
 }
-std::vector<Board> ManyRecords(uint32_t count) {
-  std::vector<Board> boards;
+std::vector<ExpectedBoard> ManyRecords(uint32_t count) {
+  std::vector<ExpectedBoard> boards;
   for (uint32_t i = 1; i <= count; ++i) {
     boards.push_back({i, "N" + std::to_string(i), {}, {}});
   }
@@ -294,19 +296,11 @@ INSTANTIATE_TEST_SUITE_P(Partial, LoadServiceBoards, testing::ValuesIn(kPartialL
 
 // ---- Nothing to load ----------------------------------------------------------
 
-struct EmptyRow {
-  const char* name;
-  string number;
-  friend std::ostream& operator<<(std::ostream& out, const EmptyRow& row) {
-    return out << row.name;
-  }
-};
-
 class LoadNoServiceBoards : public ServiceBoardsTest,
-                            public testing::WithParamInterface<EmptyRow> {};
+                            public testing::WithParamInterface<test::ZeroRow> {};
 
 TEST_P(LoadNoServiceBoards, ReportsAnEmptyListAndFindsNoMaximum) {
-  const string file = Announce(GetParam().number);
+  const string file = Announce(GetParam().text);
   for (const int32_t debug : {0, 1}) {
     BoardFaults faults(file, debug);
     MarkTable();
@@ -326,9 +320,7 @@ TEST_P(LoadNoServiceBoards, ReportsAnEmptyListAndFindsNoMaximum) {
   }
 }
 
-const EmptyRow kEmpties[] = {
-    {"Zero", "0"}, {"Empty", ""}, {"Text", "many"}, {"Hexadecimal", "0x2"}};
-INSTANTIATE_TEST_SUITE_P(ServiceBoards, LoadNoServiceBoards, testing::ValuesIn(kEmpties),
+INSTANTIATE_TEST_SUITE_P(ServiceBoards, LoadNoServiceBoards, testing::ValuesIn(test::kZeros),
                          testing::PrintToStringParamName());
 
 // ---- No number ----------------------------------------------------------------
@@ -407,7 +399,7 @@ struct AbandonRow {
   const char* name;
   string file;
   size_t announced;
-  std::vector<Board> boards;
+  std::vector<ExpectedBoard> boards;
   string console;
   friend std::ostream& operator<<(std::ostream& out, const AbandonRow& row) {
     return out << row.name;
