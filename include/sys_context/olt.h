@@ -374,8 +374,9 @@ SYS_CONTEXT_API int32_t ddGetBoardTotalSpecialPortNum(uint32_t ulBoardType,
                                                       uint32_t* pulBoardSpecialPortNum);
 
 /* The port type of a serving port, of a special port. -13 when the board has no
- * such port, and for 0 and ports above 128 whatever boards there are; -2 also when
- * the port's record is missing. The output is 0 on -18. */
+ * such port or a corrupt number of them, and for 0 and ports above 128 whatever
+ * boards there are; -2 also when the port's record is missing. The output is 0 on
+ * -18. */
 SYS_CONTEXT_API int32_t ddGetPortTypeByBoardType(uint32_t ulBoardType, uint32_t ulPortNo,
                                                  uint32_t* pulPortType);
 SYS_CONTEXT_API int32_t ddGetSpecialPortTypeByBoardType(uint32_t ulBoardType, uint32_t ulSpcPortNo,
@@ -398,7 +399,7 @@ SYS_CONTEXT_API int32_t ddGetBoardTotailPortAmountByType(uint32_t ulBoardType,
 
 /*
  * The port types of a board, each once, in the order in which they appear; serving
- * ports come before special ports.
+ * ports come before special ports. A port without a record is passed over.
  *   pulPortTypeList  room for `ulArrayAmount` types
  *   pulPortTypeNum   receives how many were stored; 0 on -18
  * Returns -9 when there are more types than room; the list is then full.
