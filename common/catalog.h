@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <type_traits>
 
 #include "common/codes.h"
 #include "common/messages.h"
@@ -23,21 +22,19 @@ Record* FindRecord(uint32_t count, Record* const* records, Wanted wanted) {
 }
 
 // What a query checks before it looks into a table, and how it words a refusal.
-template <typename... Limit>
 struct TableCheck {
   uint32_t limit;  // of records
   int32_t above_limit_code;
   int32_t no_array_code;
 
-  Message<uint32_t, Limit...> above_limit;  // the count, in some texts a limit behind it
+  PartialMessage<uint32_t, uint32_t> above_limit;  // the count, the limit
   Message<uint32_t> no_array;
 };
 
-template <typename... Limit>
-[[nodiscard]] int32_t CheckTable(const TableCheck<Limit...>& check, uint32_t count,
-                                 const void* records, std::type_identity_t<Limit>... limit) {
+[[nodiscard]] inline int32_t CheckTable(const TableCheck& check, uint32_t count,
+                                        const void* records) {
   if (count > check.limit) {
-    Report(Gate::kDebug, check.above_limit, count, limit...);
+    Report(Gate::kDebug, check.above_limit, count, check.limit);
     return check.above_limit_code;
   }
   if (records == nullptr) {
@@ -55,7 +52,7 @@ bool HasTypeAndName(const Record& record, uint32_t type) {
 
 // A query for the place of a name in a table.
 struct NameQuery {
-  TableCheck<> table;
+  TableCheck table;
 
   Message<uint32_t, uint32_t, uint32_t> null_argument;  // the name and both outputs
   Message<uint32_t> name_too_long;                      // its length

@@ -2,7 +2,9 @@
 // (DebugConsole), or as a family of functions has it (Report).
 //
 // A text is a Message, whose type says what it shows: it does not compile with
-// a text that shows anything else, be it written in the call or in a table.
+// a text that shows anything else, be it written in the call or in a table. A
+// PartialMessage may leave out the last of its values, for families in which
+// some texts show less than others.
 #pragma once
 
 #include <cstddef>
@@ -23,11 +25,11 @@ bool IsOpen(Gate gate);
 
 // A message text and the values it shows: integers ("%d", "%x") and texts
 // ("%s"), with "-" and widths.
-template <typename... Values>
-class Message {
+template <bool partial, typename... Values>
+class BasicMessage {
  public:
   template <size_t size>
-  consteval Message(const char (&text)[size]) : text_(text) {
+  consteval BasicMessage(const char (&text)[size]) : text_(text) {
     if (!Fits(text, size - 1)) {
       TextDoesNotFitItsValues();
     }
@@ -56,16 +58,24 @@ class Message {
       }
       ++shown;
     }
-    return shown == sizeof...(Values);
+    return partial || shown == sizeof...(Values);
   }
 
   const char* text_;
 };
 
-// Prints a message of a table. The C library's printf is called by its name, so
-// that a host may stand in front of it.
 template <typename... Values>
-void Report(Gate gate, const Message<Values...>& message, std::type_identity_t<Values>... values) {
+using Message = BasicMessage<false, Values...>;
+
+template <typename... Values>
+using PartialMessage = BasicMessage<true, Values...>;
+
+// Prints a message of a table. The C library's printf is called by its name, so
+// that a host may stand in front of it. (The few texts that end in a line feed are
+// put with puts, which a host may catch as well.)
+template <bool partial, typename... Values>
+void Report(Gate gate, const BasicMessage<partial, Values...>& message,
+            std::type_identity_t<Values>... values) {
   if (IsOpen(gate)) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"

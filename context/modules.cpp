@@ -60,20 +60,20 @@ int32_t ReadModule(const char* file, const char* section, ModuleInformation& mod
   return kOk;
 }
 
-// What every query checks before it looks into the list. Its messages show the
-// count, some a limit behind it.
-template <typename... Limit>
-int32_t CheckList(const Message<uint32_t, Limit...>& corrupt, const Message<uint32_t>& missing,
-                  std::type_identity_t<Limit>... limit) {
-  const TableCheck<Limit...> check = {
+// What a query checks before it looks into the list, in its words.
+consteval TableCheck ListCheck(const PartialMessage<uint32_t, uint32_t>& above_limit,
+                               const Message<uint32_t>& no_array) {
+  return {
       .limit = MAX_SUPPORTED_MODULE_TYPE_NUM,
       .above_limit_code = kTooManyModules,
       .no_array_code = kNoTable,
-      .above_limit = corrupt,
-      .no_array = missing,
+      .above_limit = above_limit,
+      .no_array = no_array,
   };
-  return CheckTable(check, gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray,
-                    limit...);
+}
+
+int32_t CheckList(const TableCheck& check) {
+  return CheckTable(check, gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray);
 }
 
 // The first module that fulfils `wanted`, or null.
@@ -82,40 +82,36 @@ const ModuleInformation* FindModule(Wanted wanted) {
   return FindRecord(gstModuleTypeList.ulModuleTypeNum, gstModuleTypeList.pModuleTypeArray, wanted);
 }
 
-constexpr Message<uint32_t, uint32_t> kNameByTypeCorrupt =
-    "\r\nddGetModuleNameByType err!, ulModuleTypeNum = %d, MAX_SUPPORTED_MODULE_TYPE_NUM = %d";
-constexpr Message<uint32_t> kNameByTypeMissing =
-    "\r\nddGetModuleNameByType err!, pModuleTypeArray = 0x%x";
+constexpr TableCheck kNameByType = ListCheck(
+    "\r\nddGetModuleNameByType err!, ulModuleTypeNum = %d, MAX_SUPPORTED_MODULE_TYPE_NUM = %d",
+    "\r\nddGetModuleNameByType err!, pModuleTypeArray = 0x%x");
 
 // kept as is: shows the boards' limit, not the one that was exceeded.
-constexpr Message<uint32_t, uint32_t> kTypeByNameCorrupt =
-    "\r\nddGetModuleTypeByName err!, ulModuleTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d";
-constexpr uint32_t kTypeByNameShownLimit = 100;
-constexpr Message<uint32_t> kTypeByNameMissing =
-    "\r\nddGetModuleTypeByName err!, pModuleTypeArray = 0x%x";
+constexpr TableCheck kTypeByName =
+    ListCheck("\r\nddGetModuleTypeByName err!, ulModuleTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = 100",
+              "\r\nddGetModuleTypeByName err!, pModuleTypeArray = 0x%x");
 
 // ddIsModuleInList and ddGetModuleSize walk the list alike.
 // kept as is: an empty place ends their walk, while the other queries pass over
 // it, and a missing list alone leaves their output untouched.
 struct StrictQuery {
   Message<uint32_t> null_output;
-  Message<uint32_t> corrupt;
-  Message<uint32_t> missing;
+  TableCheck list;
   Message<uint32_t, uint32_t, uint32_t> empty_place;
 };
 
 constexpr StrictQuery kIsModuleInList = {
     .null_output = "\r\nddIsModuleInList err!, pulIsSupported = 0x%x",
-    .corrupt = "\r\nddIsModuleInList err! ulModuleTypeNum = %d",
-    .missing = "\r\nddIsModuleInList err!, pModuleTypeArray = 0x%x",
+    .list = ListCheck("\r\nddIsModuleInList err! ulModuleTypeNum = %d",
+                      "\r\nddIsModuleInList err!, pModuleTypeArray = 0x%x"),
     .empty_place =
         "\r\nddIsModuleInList err! ulModuleTypeNum = %d, ulModuleTypeIndex = %d, pstModuleInformation = 0x%x",
 };
 
 constexpr StrictQuery kGetModuleSize = {
     .null_output = "\r\nddGetModuleSize err!, pulSize = 0x%x",
-    .corrupt = "\r\nddGetModuleSize err! ulModuleTypeNum = %d",
-    .missing = "\r\nddGetModuleSize err!, pModuleTypeArray = 0x%x",
+    .list = ListCheck("\r\nddGetModuleSize err! ulModuleTypeNum = %d",
+                      "\r\nddGetModuleSize err!, pModuleTypeArray = 0x%x"),
     .empty_place =
         "\r\nddGetModuleSize err! ulModuleTypeNum = %d, ulModuleTypeIndex = %d, pstModuleInformation = 0x%x",
 };
@@ -128,7 +124,7 @@ int32_t AskStrictly(const StrictQuery& query, uint32_t type, Output* output, Ans
     Report(Gate::kDebug, query.null_output, LowBits(output));
     return kNullArgument;
   }
-  const int32_t code = CheckList(query.corrupt, query.missing);
+  const int32_t code = CheckList(query.list);
   if (code == kNoTable) {
     return code;
   }
@@ -193,9 +189,7 @@ int32_t ddGetModuleNameByType(uint32_t ulModuleType, char* pcModuleName) {
     DebugConsole("\r\nddGetModuleNameByType err!, pcModuleName = 0x%x", LowBits(pcModuleName));
     return kNullArgument;
   }
-  if (const int32_t code =
-          CheckList(kNameByTypeCorrupt, kNameByTypeMissing, MAX_SUPPORTED_MODULE_TYPE_NUM);
-      code != kOk) {
+  if (const int32_t code = CheckList(kNameByType); code != kOk) {
     return code;
   }
   const ModuleInformation* const module = FindModule([=](const ModuleInformation& candidate) {
@@ -215,8 +209,7 @@ int32_t ddGetModuleTypeByName(const char* pcModuleName, uint32_t* pulModuleType)
                  LowBits(pcModuleName), LowBits(pulModuleType));
     return kNullArgument;
   }
-  if (const int32_t code = CheckList(kTypeByNameCorrupt, kTypeByNameMissing, kTypeByNameShownLimit);
-      code != kOk) {
+  if (const int32_t code = CheckList(kTypeByName); code != kOk) {
     return code;
   }
   const ModuleInformation* const module = FindModule([=](const ModuleInformation& candidate) {

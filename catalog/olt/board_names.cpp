@@ -8,8 +8,8 @@ namespace sys_context {
 namespace {
 
 constexpr NameQuery kBoardByName = {
-    .table = BoardTableCheck<>("\r\nddIsBoardTypeSupportedByName err! ulSupportedBoardTypeNum = %d",
-                               "\r\nddIsBoardTypeSupportedByName err! pBoardTypeArray = 0x%x"),
+    .table = BoardTableCheck("\r\nddIsBoardTypeSupportedByName err! ulSupportedBoardTypeNum = %d",
+                             "\r\nddIsBoardTypeSupportedByName err! pBoardTypeArray = 0x%x"),
     .null_argument =
         "\r\nddIsBoardTypeSupportedByName err! strBoardTypeSection = 0x%x, pIsSupported = 0x%x, pIndex = 0x%x",
     .name_too_long = "\r\nddIsBoardTypeSupportedByName err! strlen(strBoardTypeSection) = %d",
@@ -17,12 +17,12 @@ constexpr NameQuery kBoardByName = {
         "\r\nddIsBoardTypeSupportedByName err! ulNameLen = %d, ulSupportedBoardTypeNumIndex = %d",
 };
 
-constexpr TableCheck<> kNameByType =
-    BoardTableCheck<>("\r\nddGetBoardNameByType err! ulSupportedBoardTypeNum = %d",
-                      "\r\nddGetBoardNameByType err! pBoardTypeArray = 0x%x");
-constexpr TableCheck<> kTypeByName =
-    BoardTableCheck<>("\r\nddGetBoardTypeByName err! ulSupportedBoardTypeNum = %d",
-                      "\r\nddGetBoardTypeByName err! pBoardTypeArray = 0x%x");
+constexpr TableCheck kNameByType =
+    BoardTableCheck("\r\nddGetBoardNameByType err! ulSupportedBoardTypeNum = %d",
+                    "\r\nddGetBoardNameByType err! pBoardTypeArray = 0x%x");
+constexpr TableCheck kTypeByName =
+    BoardTableCheck("\r\nddGetBoardTypeByName err! ulSupportedBoardTypeNum = %d",
+                    "\r\nddGetBoardTypeByName err! pBoardTypeArray = 0x%x");
 
 }  // namespace
 }  // namespace sys_context

@@ -7,23 +7,21 @@ namespace {
 // kept as is: two queries share these messages, which name neither.
 constexpr BoardQuery kServePortAmount = {
     .null_output = "\r\nddGetBoardServePortNumByType err! pulBoardServePortAmount = 0x%x",
-    .table = BoardTableCheck<>("\r\nddGetBoardServePortNumByType err! ulSupportedBoardTypeNum = %d",
-                               "\r\nddGetBoardServePortNumByType err! pBoardTypeArray = 0x%x"),
+    .table = BoardTableCheck("\r\nddGetBoardServePortNumByType err! ulSupportedBoardTypeNum = %d",
+                             "\r\nddGetBoardServePortNumByType err! pBoardTypeArray = 0x%x"),
 };
 
 constexpr BoardQuery kSpecialPortNum = {
     .null_output = "\r\nddGetBoardSpecialPortNumByType err! pulBoardSpecialPortNum = 0x%x",
-    .table =
-        BoardTableCheck<>("\r\nddGetBoardSpecialPortNumByType err! ulSupportedBoardTypeNum = %d",
-                          "\r\nddGetBoardSpecialPortNumByType err! pBoardTypeArray = 0x%x"),
+    .table = BoardTableCheck("\r\nddGetBoardSpecialPortNumByType err! ulSupportedBoardTypeNum = %d",
+                             "\r\nddGetBoardSpecialPortNumByType err! pBoardTypeArray = 0x%x"),
     .not_found_clears_output = false,
 };
 
 constexpr BoardQuery kTotalSpecialPortNum = {
     .null_output = "\r\nddGetBoardTotalSpecialPortNum err! pulBoardSpecialPortNum = 0x%x",
-    .table =
-        BoardTableCheck<>("\r\nddGetBoardTotalSpecialPortNum err! ulSupportedBoardTypeNum = %d",
-                          "\r\nddGetBoardTotalSpecialPortNum err! pBoardTypeArray = 0x%x"),
+    .table = BoardTableCheck("\r\nddGetBoardTotalSpecialPortNum err! ulSupportedBoardTypeNum = %d",
+                             "\r\nddGetBoardTotalSpecialPortNum err! pBoardTypeArray = 0x%x"),
     .not_found_clears_output = false,
 };
 

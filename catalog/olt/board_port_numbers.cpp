@@ -21,8 +21,8 @@ constexpr PortByNumberQuery kServingPortType = {
         {
             .null_output = "\r\nddGetPortTypeByBoardType err! pulPortType = 0x%x",
             .table =
-                BoardTableCheck<>("\r\nddGetPortTypeByBoardType err! ulSupportedBoardTypeNum = %d",
-                                  "\r\nddGetPortTypeByBoardType err! pBoardTypeArray = 0x%x"),
+                BoardTableCheck("\r\nddGetPortTypeByBoardType err! ulSupportedBoardTypeNum = %d",
+                                "\r\nddGetPortTypeByBoardType err! pBoardTypeArray = 0x%x"),
         },
     .count = &BoardInformation::ulTotalServePortNum,
     .ports = &BoardInformation::pPortArray,
@@ -41,7 +41,7 @@ constexpr PortByNumberQuery kSpecialPortType = {
     .board =
         {
             .null_output = "\r\nddGetSpecialPortTypeByBoardType err! pulPortType = 0x%x",
-            .table = BoardTableCheck<>(
+            .table = BoardTableCheck(
                 "\r\nddGetSpecialPortTypeByBoardType err! ulSupportedBoardTypeNum = %d",
                 "\r\nddGetSpecialPortTypeByBoardType err! pBoardTypeArray = 0x%x"),
         },

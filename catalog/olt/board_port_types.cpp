@@ -8,8 +8,8 @@ namespace {
 
 constexpr BoardQuery kAllPortTypes = {
     .null_output = "\r\nddGetBoardAllPortTypesByType err! pulPortTypeNum = 0x%x",
-    .table = BoardTableCheck<>("\r\nddGetBoardAllPortTypesByType err! ulSupportedBoardTypeNum = %d",
-                               "\r\nddGetBoardAllPortTypesByType err! pBoardTypeArray = 0x%x"),
+    .table = BoardTableCheck("\r\nddGetBoardAllPortTypesByType err! ulSupportedBoardTypeNum = %d",
+                             "\r\nddGetBoardAllPortTypesByType err! pBoardTypeArray = 0x%x"),
     .not_found = Message<uint32_t>("\r\nddGetBoardAllPortTypesByType err! ulBoardType = %d"),
 };
 
@@ -17,8 +17,8 @@ constexpr BoardQuery kAllPortTypes = {
 // one is the other query's.
 constexpr BoardQuery kOneTypePorts = {
     .null_output = "\r\n ddGetBoardAllPortsByType err! pulPortNum = 0x%x",
-    .table = BoardTableCheck<>("\r\n ddGetBoardAllPortsByType err! ulSupportedBoardTypeNum = %d",
-                               "\r\n ddGetBoardAllPortsByType err! pBoardTypeArray = 0x%x"),
+    .table = BoardTableCheck("\r\n ddGetBoardAllPortsByType err! ulSupportedBoardTypeNum = %d",
+                             "\r\n ddGetBoardAllPortsByType err! pBoardTypeArray = 0x%x"),
     .not_found = Message<uint32_t>("\r\nddGetBoardAllPortTypesByType err! ulBoardType = %d"),
 };
 

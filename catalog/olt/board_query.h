@@ -3,7 +3,6 @@
 #pragma once
 
 #include <optional>
-#include <type_traits>
 
 #include "common/catalog.h"
 #include "common/codes.h"
@@ -13,10 +12,8 @@
 namespace sys_context {
 
 // The check of a table of boards, service or main, in the words of a query.
-template <typename... Limit>
-consteval TableCheck<Limit...> BoardTableCheck(
-    const std::type_identity_t<Message<uint32_t, Limit...>>& above_limit,
-    const Message<uint32_t>& no_array) {
+consteval TableCheck BoardTableCheck(const PartialMessage<uint32_t, uint32_t>& above_limit,
+                                     const Message<uint32_t>& no_array) {
   return {
       .limit = MAX_OLT_BOARD_TYPE_NUM,
       .above_limit_code = kTooManyBoards,
@@ -26,7 +23,7 @@ consteval TableCheck<Limit...> BoardTableCheck(
   };
 }
 
-inline int32_t CheckBoardTable(const TableCheck<>& check) {
+inline int32_t CheckBoardTable(const TableCheck& check) {
   return CheckTable(check, gstSupportedBoardType.ulSupportedBoardTypeNum,
                     gstSupportedBoardType.pBoardTypeArray);
 }
@@ -34,7 +31,7 @@ inline int32_t CheckBoardTable(const TableCheck<>& check) {
 // How a query words its refusals, and what becomes of its output.
 struct BoardQuery {
   Message<uint32_t> null_output;
-  TableCheck<> table;
+  TableCheck table;
   std::optional<Message<uint32_t>> not_found = {};  // the type
   bool not_found_clears_output = true;
 };

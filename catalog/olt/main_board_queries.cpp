@@ -11,13 +11,13 @@ namespace {
 // no board is found.
 struct MainBoardQuery {
   int32_t not_found_code;
-  TableCheck<uint32_t> table;
+  TableCheck table;
   Message<uint32_t> empty_place;
 };
 
 constexpr MainBoardQuery kNameByType = {
     .not_found_code = kNoSuchBoard,
-    .table = BoardTableCheck<uint32_t>(
+    .table = BoardTableCheck(
         "\r\nddGetMainBoardNameByType err!, ulSupportedBoardTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d",
         "\r\nddGetMainBoardNameByType err!, pBoardTypeArray = 0x%x"),
     .empty_place = "\r\nddGetMainBoardNameByType err!, pstMainBoardInformation = 0x%x",
@@ -25,7 +25,7 @@ constexpr MainBoardQuery kNameByType = {
 
 constexpr MainBoardQuery kTypeByName = {
     .not_found_code = kNoSuchName,
-    .table = BoardTableCheck<uint32_t>(
+    .table = BoardTableCheck(
         "\r\nddGetMainBoardTypeByName err!, ulSupportedBoardTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d",
         "\r\nddGetMainBoardTypeByName err!, pBoardTypeArray = 0x%x"),
     .empty_place = "\r\nddGetMainBoardTypeByName err!, pstMainBoardInformation = 0x%x",
@@ -33,7 +33,7 @@ constexpr MainBoardQuery kTypeByName = {
 
 constexpr MainBoardQuery kObjByType = {
     .not_found_code = kNoSuchBoard,
-    .table = BoardTableCheck<uint32_t>(
+    .table = BoardTableCheck(
         "\r\nddGetMainBoardObjByType err!, ulSupportedBoardTypeNum = %d, MAX_OLT_BOARD_TYPE_NUM = %d",
         "\r\nddGetMainBoardObjByType err!, pBoardTypeArray = 0x%x"),
     .empty_place = "\r\nddGetMainBoardObjByType err!, pstMainBoardInformation = 0x%x",
@@ -44,8 +44,8 @@ template <typename Wanted>
 int32_t FindMainBoard(const MainBoardQuery& query, Wanted wanted, MainBoardInformation*& board) {
   const SupportedMainBoardType& table = gstSupportedMainBoardType;
   board = nullptr;
-  if (const int32_t code = CheckTable(query.table, table.ulSupportedBoardTypeNum,
-                                      table.pBoardTypeArray, MAX_OLT_BOARD_TYPE_NUM);
+  if (const int32_t code =
+          CheckTable(query.table, table.ulSupportedBoardTypeNum, table.pBoardTypeArray);
       code != kOk) {
     return code;
   }

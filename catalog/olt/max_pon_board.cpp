@@ -5,9 +5,9 @@
 namespace sys_context {
 namespace {
 
-constexpr TableCheck<> kTableCheck =
-    BoardTableCheck<>("\r\nddFindSupportedBoardMaxPonNum err! ulSupportedBoardTypeNum = %d",
-                      "\r\nddFindSupportedBoardMaxPonNum err! pBoardTypeArray = 0x%x");
+constexpr TableCheck kTableCheck =
+    BoardTableCheck("\r\nddFindSupportedBoardMaxPonNum err! ulSupportedBoardTypeNum = %d",
+                    "\r\nddFindSupportedBoardMaxPonNum err! pBoardTypeArray = 0x%x");
 
 // The platform takes the type in 16 bits and answers 0 for yes.
 bool IsPonBoard(const BoardInformation& board) {
