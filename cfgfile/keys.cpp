@@ -56,10 +56,10 @@ int32_t ParseCount(const CountKey& key, const Value& value, uint32_t& count) {
 }
 
 int32_t ReadName(const Source& source, const char* section, char* field, size_t size,
-                 uint32_t& length, const KeyMessage& unreadable,
-                 const Message<uint32_t>& too_long) {
+                 uint32_t& length, const KeyMessage& unreadable, const Message<uint32_t>& too_long,
+                 const char* key) {
   Value name;
-  if (ReadKey(source, section, "Name", name, unreadable) != kOk) {
+  if (ReadKey(source, section, key, name, unreadable) != kOk) {
     return kKeyUnreadable;
   }
   if (const uint32_t needed = StoreName(name.text, field, size, length); needed > size) {

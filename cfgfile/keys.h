@@ -20,10 +20,11 @@ struct Value {
 // "... iResult = %d, section = %s, key = %s"; some loaders word it otherwise.
 using KeyMessage = Message<int32_t, const char*, const char*>;
 
-// The name of a numbered key: "Module" and 3 give "Module3".
+// The name of a numbered key: "Module" and 3 give "Module3". Numbers above the signed
+// range become negative, as in the messages.
 struct NumberedKey {
   NumberedKey(const char* prefix, uint32_t number) {
-    std::snprintf(text, sizeof text, "%s%u", prefix, static_cast<unsigned>(number));
+    std::snprintf(text, sizeof text, "%s%d", prefix, static_cast<int>(number));
   }
   char text[CFG_VALUE_SIZE];
 };
@@ -65,17 +66,17 @@ struct CountKey {
 // returned.
 [[nodiscard]] int32_t ParseCount(const CountKey& key, const Value& value, uint32_t& count);
 
-// Reads the key "Name" into a name field; a failure is reported. Returns kOk,
+// Reads a key, mostly "Name", into a name field; a failure is reported. Returns kOk,
 // kKeyUnreadable or, with the length needed in the message, kTextTooLong.
 [[nodiscard]] int32_t ReadName(const Source& source, const char* section, char* field, size_t size,
                                uint32_t& length, const KeyMessage& unreadable,
-                               const Message<uint32_t>& too_long);
+                               const Message<uint32_t>& too_long, const char* key = "Name");
 
 template <size_t size>
 [[nodiscard]] int32_t ReadName(const Source& source, const char* section, char (&field)[size],
                                uint32_t& length, const KeyMessage& unreadable,
-                               const Message<uint32_t>& too_long) {
-  return ReadName(source, section, field, size, length, unreadable, too_long);
+                               const Message<uint32_t>& too_long, const char* key = "Name") {
+  return ReadName(source, section, field, size, length, unreadable, too_long, key);
 }
 
 }  // namespace sys_context

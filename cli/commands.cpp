@@ -34,6 +34,8 @@ SHOW_COMMAND(ddShowOltPortInfo_CMD, ddShowOltPortInfo_Func, "show context olt_po
              "show info.\ncontext info.\nolt port info.\n", ddPrintAllSupportedOltPortInfomation);
 SHOW_COMMAND(ddShowAllBoardInfo_CMD, ddShowAllBoardInfo_Func, "show context board_all",
              "show info.\ncontext info.\nall board info.\n", ddPrintAllSupportedBoardInfomation);
+SHOW_COMMAND(ddShowFrameInfo_CMD, ddShowFrameInfo_Func, "show context frame",
+             "show info.\ncontext info.\nframe info.\n", ddPrintFrameInfomation);
 
 namespace sys_context {
 namespace {
@@ -43,6 +45,7 @@ constexpr int32_t kDiagnosticNode = 10;
 constexpr CommandRecord* kRecords[] = {
     &ddShowVersionInfo_CMD,   &ddShowAllModuleInfo_CMD, &ddShowSysSupportFuncInfo_CMD,
     &ddShowMainBoardInfo_CMD, &ddShowOltPortInfo_CMD,   &ddShowAllBoardInfo_CMD,
+    &ddShowFrameInfo_CMD,
 };
 
 // Tells the module framework the library's name, and its build date as version.

@@ -6,6 +6,7 @@
 #include "common/memory.h"
 #include "common/messages.h"
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 
 constinit int32_t ddDebugPrint = 0;
@@ -39,6 +40,8 @@ constexpr Loader kLoaders[] = {
      "\r\nddParseContextFile->ddReadAllSupportedMainBoardInformation err! iResult = %d, strDeviceDefFilePath = %s"},
     {ddReadAllSupportedBoardInformation,
      "\r\nddParseContextFile->ddReadAllSupportedBoardInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadFrameInformation,
+     "\r\nddParseContextFile->ddReadFrameInformation err! iResult = %d, strDeviceDefFilePath = %s"},
 };
 
 // Forgets what the tables hold; nothing is released.
@@ -46,6 +49,7 @@ void ClearTables() {
   gstVersionInformation = {};
   gstSysSupportFuncType = {};
   gstModuleTypeList = {};
+  gstFrame = {};
   gstSupportedOltPortType = {};
   gstSupportedBoardType = {};
   gstSupportedMainBoardType = {};

@@ -18,6 +18,7 @@
 #include "host/root.h"
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
@@ -56,12 +57,15 @@ std::string DescribeEquipment() {
 std::string DescribeTables() {
   return Format(
       "loaded: %u versions, %u modules, %u system functions\n"
-      "loaded: %u OLT port types, %u main boards, %u service boards\n",
+      "loaded: %u OLT port types, %u main boards, %u service boards\n"
+      "loaded: frame %s, %u real slots, %u logic ports, %u type-2 logic ports\n",
       gstVersionInformation.ulSupportedSoftVerNum, gstModuleTypeList.ulModuleTypeNum,
       gstSysSupportFuncType.ulSupportedSysFunctionTypeNum,
       gstSupportedOltPortType.ulSupportedOltPortTypeNum,
       gstSupportedMainBoardType.ulSupportedBoardTypeNum,
-      gstSupportedBoardType.ulSupportedBoardTypeNum);
+      gstSupportedBoardType.ulSupportedBoardTypeNum,
+      gstFrame.ulNameLen == 0 ? "(none)" : gstFrame.acName, gstFrame.stRealSlot.ulSlotAmount,
+      gstFrame.ulSwitchChipLogicPortNum, gstFrame.ulType2SwitchChipLogicPortNum);
 }
 
 std::string DescribeModules() {

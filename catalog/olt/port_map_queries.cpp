@@ -20,10 +20,24 @@ const PortPair* FindLogicPort(const PortMap& map, uint32_t logic_port) {
   return found == end ? nullptr : found;
 }
 
-uint32_t FindPhyPort(const PortMap& map, uint32_t phy_port, uint32_t* logic_ports, uint32_t room) {
+int32_t FindLogicPorts(uint32_t phy_port, const PortMap* map, uint32_t* logic_ports, uint32_t room,
+                       uint32_t* count) {
+  if (map == nullptr || logic_ports == nullptr) {
+    DebugConsole(
+        "\r\nddGetSwitchChipLogicPortFromPhyPort err!, pstChipLogicPortToPhyPortType = 0x%x, pulLogicPort = 0x%x",
+        LowBits(map), LowBits(logic_ports));
+    return kNullArgument;
+  }
+  if (phy_port > MAX_SWITCH_CHIP_LOGIC_PORT_NUM) {
+    DebugConsole(
+        "\r\nddGetSwitchChipLogicPortFromPhyPort err!, ulPhyPortIn = %d, MAX_SWITCH_CHIP_LOGIC_PORT_NUM = %d",
+        phy_port, MAX_SWITCH_CHIP_LOGIC_PORT_NUM);
+    logic_ports[0] = 0;
+    return kBadChipPort;
+  }
   uint32_t found = 0;
   // kept as is: the pairs behind the board's ports count, too; they are 0/0.
-  for (const PortPair& pair : map.astPortPair) {
+  for (const PortPair& pair : map->astPortPair) {
     if (pair.usPhyPort != static_cast<uint16_t>(phy_port)) {
       continue;
     }
@@ -32,7 +46,8 @@ uint32_t FindPhyPort(const PortMap& map, uint32_t phy_port, uint32_t* logic_port
     }
     ++found;
   }
-  return found;
+  *count = found;  // kept as is: this pointer is not checked.
+  return kOk;
 }
 
 namespace {
@@ -90,24 +105,8 @@ int32_t ddGetSpecialLogicPortToPhyPortObjByType(uint32_t ulMainBoardType, uint32
 int32_t ddGetSwitchChipLogicPortFromPhyPort(uint32_t ulPhyPortIn,
                                             const PortMap* pstChipLogicPortToPhyPortType,
                                             uint32_t* pulLogicPort, uint32_t* pulLogicPortNum) {
-  using namespace sys_context;
-  if (pstChipLogicPortToPhyPortType == nullptr || pulLogicPort == nullptr) {
-    DebugConsole(
-        "\r\nddGetSwitchChipLogicPortFromPhyPort err!, pstChipLogicPortToPhyPortType = 0x%x, pulLogicPort = 0x%x",
-        LowBits(pstChipLogicPortToPhyPortType), LowBits(pulLogicPort));
-    return kNullArgument;
-  }
-  if (ulPhyPortIn > MAX_SWITCH_CHIP_LOGIC_PORT_NUM) {
-    DebugConsole(
-        "\r\nddGetSwitchChipLogicPortFromPhyPort err!, ulPhyPortIn = %d, MAX_SWITCH_CHIP_LOGIC_PORT_NUM = %d",
-        ulPhyPortIn, MAX_SWITCH_CHIP_LOGIC_PORT_NUM);
-    pulLogicPort[0] = 0;
-    return kBadChipPort;
-  }
-  // kept as is: this pointer is not checked.
-  *pulLogicPortNum = FindPhyPort(*pstChipLogicPortToPhyPortType, ulPhyPortIn, pulLogicPort,
-                                 MAX_SWITCH_CHIP_LOGIC_PORT_NUM);
-  return kOk;
+  return sys_context::FindLogicPorts(ulPhyPortIn, pstChipLogicPortToPhyPortType, pulLogicPort,
+                                     MAX_SWITCH_CHIP_LOGIC_PORT_NUM, pulLogicPortNum);
 }
 
 // kept as is: its messages double the prefix of its name.

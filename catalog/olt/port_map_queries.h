@@ -1,6 +1,5 @@
-// Translations in one port map without the interface's limits and messages, for
-// those who have less room than the interface asks for, or take a logic port that
-// is wired to nothing for an answer.
+// Translations in one port map for those who take a logic port that is wired to
+// nothing for an answer, or have less room than the interface asks for.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +12,9 @@ namespace sys_context {
 // compared by their low 8 bits.
 const PortPair* FindLogicPort(const PortMap& map, uint32_t logic_port);
 
-// Stores the logic ports that are wired to the physical port, as many as there is
-// room for. Returns how many there are in all.
-uint32_t FindPhyPort(const PortMap& map, uint32_t phy_port, uint32_t* logic_ports, uint32_t room);
+// ddGetSwitchChipLogicPortFromPhyPort, but with room for `room` ports, at least
+// one. Counts all there are.
+[[nodiscard]] int32_t FindLogicPorts(uint32_t phy_port, const PortMap* map, uint32_t* logic_ports,
+                                     uint32_t room, uint32_t* count);
 
 }  // namespace sys_context

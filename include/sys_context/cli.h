@@ -9,6 +9,7 @@
 #ifndef SYS_CONTEXT_CLI_H
 #define SYS_CONTEXT_CLI_H
 
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
@@ -31,6 +32,7 @@ extern SYS_CONTEXT_API struct CommandRecord ddShowSysSupportFuncInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowMainBoardInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowOltPortInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowAllBoardInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowFrameInfo_CMD;
 
 /* Their handlers. The show commands take no arguments and return 0. */
 SYS_CONTEXT_API int32_t ddShowVersionInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
@@ -45,6 +47,8 @@ SYS_CONTEXT_API int32_t ddShowOltPortInfo_Func(struct CommandRecord* self, void*
                                                char** argv);
 SYS_CONTEXT_API int32_t ddShowAllBoardInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
                                                 char** argv);
+SYS_CONTEXT_API int32_t ddShowFrameInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                             char** argv);
 
 /* ---- Printers ------------------------------------------------------------ */
 
@@ -77,6 +81,14 @@ SYS_CONTEXT_API int32_t ddPrintAllSupportedBoardInfomation(void* vty);
 /* One service board with its ports. -2, and nothing printed, without one. */
 SYS_CONTEXT_API int32_t ddPrintOneSupportedBoardInfomation(const BoardInformation* board,
                                                            void* vty);
+
+/* The frame: slots by class but for virtual and HCU slots, the boards of each slot, both
+ * maps of logic ports. What is corrupt is reported in its place; 0 always. */
+SYS_CONTEXT_API int32_t ddPrintFrameInfomation(void* vty);
+
+/* One class of slots. -2 without one; -4: more than 100 slots. */
+SYS_CONTEXT_API int32_t ddPrintSlotClassInformation(void* vty,
+                                                    const SlotClassInformation* slotClass);
 
 SYS_CONTEXT_END
 

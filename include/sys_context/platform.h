@@ -2,7 +2,7 @@
  * What the host provides: the functions and the variable that libsys_context
  * uses on the control card. A program that links the library defines all of
  * them, with C linkage; the library of today calls only the shell, the module
- * framework and the task delay, and asks which cards are PON cards. The library also
+ * framework, the task delay and, but for ONU types, the equipment facts. The library also
  * calls the C library by name (fopen, malloc, printf, ...), and a host may put its
  * own in front of those.
  *

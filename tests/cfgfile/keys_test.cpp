@@ -46,7 +46,9 @@ TEST(NumberedKeys, AreThePrefixAndTheNumber) {
   EXPECT_STREQ(NumberedKey("Port", 128).text, "Port128");
   EXPECT_STREQ(NumberedKey("Port", 0).text, "Port0");
   EXPECT_STREQ(NumberedKey("", 17).text, "17");
-  EXPECT_STREQ(NumberedKey("Port", 4294967295u).text, "Port4294967295");
+  EXPECT_STREQ(NumberedKey("Port", 2147483647).text, "Port2147483647");
+  EXPECT_STREQ(NumberedKey("Port", 2147483648u).text, "Port-2147483648");
+  EXPECT_STREQ(NumberedKey("Port", 4294967295u).text, "Port-1");
 }
 
 TEST(NumberedKeys, AreCutAtTheLengthOfAValue) {

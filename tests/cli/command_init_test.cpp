@@ -18,6 +18,7 @@ class CommandInit : public test::LibraryTest {
     CommandRecord* const expected[] = {
         &ddShowVersionInfo_CMD,   &ddShowAllModuleInfo_CMD, &ddShowSysSupportFuncInfo_CMD,
         &ddShowMainBoardInfo_CMD, &ddShowOltPortInfo_CMD,   &ddShowAllBoardInfo_CMD,
+        &ddShowFrameInfo_CMD,
     };
     const std::vector<FakePlatform::Installed>& installed = FakePlatform::Get().installed;
     ASSERT_EQ(installed.size(), std::size(expected));
@@ -142,8 +143,10 @@ TEST_F(CommandInit, ReadsNoTableAndNoFile) {
   gstSupportedOltPortType.ulSupportedOltPortTypeNum = 0xffffffff;
   gstSupportedMainBoardType.ulSupportedBoardTypeNum = 0xffffffff;
   gstSupportedBoardType.ulSupportedBoardTypeNum = 0xffffffff;
+  gstFrame.ulSwitchChipLogicPortNum = 0xffffffff;
   EXPECT_EQ(ddCmdInit(0, 0, 0), 0);
   EXPECT_EQ(FakePlatform::Get().terminal, "");
+  EXPECT_TRUE(FakePlatform::Get().asked.empty());
   EXPECT_EQ(console_.Text(), "");
 }
 

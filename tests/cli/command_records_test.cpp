@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "support/tables.h"
+#include "cli/frame_printer_test.h"
 
 namespace {
 
@@ -18,9 +18,9 @@ struct RecordRow {
   const char* command;
   Handler handler;
   const char* help;
-  void (*corrupt)();            // spoils the table that the command shows
-  const char* empty_listing;    // what it shows of the table before any load
-  const char* corrupt_listing;  // and of the spoilt one
+  void (*corrupt)();       // spoils the table that the command shows
+  string empty_listing;    // what it shows of the table before any load
+  string corrupt_listing;  // and of the spoilt one
   friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
     return out << row.name;
   }
@@ -31,7 +31,7 @@ class CommandRecords : public test::LibraryTest, public testing::WithParamInterf
   static const test::FakePlatform& Platform() { return test::FakePlatform::Get(); }
 
   // Calls the handler as a shell would, and expects its terminal to be used.
-  static void ExpectShown(const char* listing) {
+  static void ExpectShown(const string& listing) {
     char word[] = "word";
     char* words[] = {word, nullptr};
     int terminal = 0;
@@ -157,6 +157,25 @@ const RecordRow kRecords[] = {
      .empty_listing = "\r\n\r\nAllSupportedBoard:"
                       "\r\ngstSupportedBoardType.ulSupportedBoardTypeNum = 0\r\n\r\n",
      .corrupt_listing = "\r\nddPrintAllSupportedBoardInfomation err! pBoardTypeArray = 0x0"},
+    {.name = "ddShowFrameInfo_CMD",
+     .record = &ddShowFrameInfo_CMD,
+     .command = "show context frame",
+     .handler = ddShowFrameInfo_Func,
+     .help = "show info.\ncontext info.\nframe info.\n",
+     .corrupt =
+         [] {
+           gstFrame.ulSwitchChipLogicPortNum = 1;
+           gstFrame.astSwitchChipLogicPort[0].ucSlotPort = 129;
+         },
+     .empty_listing = test::FrameListing(test::kNoSlots,
+                                         "\r\n\r\nulSwitchChipLogicPortNum =  0"
+                                         "\r\n\r\nulType2SwitchChipLogicPortNum =  0\r\n\r\n"),
+     .corrupt_listing =
+         test::FrameListing(test::kNoSlots,
+                            "\r\n\r\nulSwitchChipLogicPortNum =  1"
+                            "\r\nddPrintFrameInfomation->ddGetCardNameByType err! iResult = -5, "
+                            "ulSwitchChipLogicPortNumIndex = 1, ulSLotOut = 0, ulBoardType = 0"
+                            "\r\n\r\nulType2SwitchChipLogicPortNum =  0\r\n\r\n")},
 };
 INSTANTIATE_TEST_SUITE_P(Cli, CommandRecords, testing::ValuesIn(kRecords),
                          testing::PrintToStringParamName());

@@ -36,17 +36,27 @@ constexpr std::string_view kBoardPart =
     "[B1]\nType=3102\nName=GP01A\nPortNum=1\nNameKeyPort1=GPON\nSpecialPortNum=0\n"
     "[B2]\nType=3201\nName=ET01G\nPortNum=1\nNameKeyPort1=GE\nSpecialPortNum=0\n";
 
+constexpr std::string_view kFramePart =
+    "[KT3300-L_FrameInfomation]\nType=15\nName=KT3300-L\nMaxOnuNum=64\nMaxUserNum=128\n"
+    "RealSlotNum=2\nRealSlotList=1,2\nVirtualSlotNum=1\nVirtualSlotList=31\n"
+    "HcuSlotNum=1\nHcuSlotList=801\nFanSlotNum=0\nCioSlotNum=0\nPowerSlotNum=0\n"
+    "ServeBoardSlotNum=1\nServeBoardSlotList=1\nMainSlotNum=1\nMainSlotList=2\nUplinkSlotNum=0\n"
+    "SupportedBoardTypeSlot1=GP01A|ET01G\nSupportedBoardTypeSlot2=MCXA\n"
+    "SwitchChipLogicPortNum=2\nSwitchChipLogicPort1=1,0,0\nSwitchChipLogicPort2=2,4,1\n"
+    "Type2SwitchChipLogicPortNum=2\nType2SwitchChipLogicPort1=1,3,0,5,0\n"
+    "Type2SwitchChipLogicPort2=2,0,1,6,1\n";
+
 // The parts of the first `loaders` loaders.
 inline std::string FileFor(size_t loaders) {
   std::string file;
-  for (const std::string_view part :
-       {kVersionPart, kModulePart, kFunctionPart, kPortTypePart, kMainBoardPart, kBoardPart}) {
+  for (const std::string_view part : {kVersionPart, kModulePart, kFunctionPart, kPortTypePart,
+                                      kMainBoardPart, kBoardPart, kFramePart}) {
     file += loaders > 0 ? part : "";
     loaders -= loaders > 0 ? 1 : 0;
   }
   return file;
 }
-constexpr size_t kLoaders = 6;
+constexpr size_t kLoaders = 7;
 
 // Watches the library while the given bytes are its definition file.
 struct DeviceFile {

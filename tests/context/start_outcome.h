@@ -7,9 +7,63 @@
 #include <string>
 
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 
 namespace test {
+
+// What the frame holds.
+struct FrameCounts {
+  uint32_t name_length = 0;
+  uint32_t onus = 0;
+  uint32_t users = 0;
+  uint32_t slots = 0;          // of all classes
+  uint32_t boards = 0;         // that the slots take
+  uint32_t logic_ports = 0;    // those counted that serve a slot
+  uint32_t balance_ports = 0;  // the same, type 2
+
+  static FrameCounts OfTheFrame() {
+    FrameCounts counts;
+    counts.name_length = gstFrame.ulNameLen;
+    counts.onus = gstFrame.ulMaxOnuNum;
+    counts.users = gstFrame.ulMaxUserNum;
+    for (const SlotClassInformation* const slots :
+         {&gstFrame.stRealSlot, &gstFrame.stVirtualSlot, &gstFrame.stHcuSlot, &gstFrame.stFanSlot,
+          &gstFrame.stPowerSlot, &gstFrame.stCioSlot, &gstFrame.stServeBoardSlot,
+          &gstFrame.stMainSlot, &gstFrame.stUplinkSlot}) {
+      counts.slots += slots->ulSlotAmount;
+    }
+    for (uint32_t slot = 0;
+         gstFrame.pstSlotArray != nullptr && slot <= gstFrame.stRealSlot.ulSlotEnd; ++slot) {
+      for (const uint32_t type : gstFrame.pstSlotArray[slot].aulBoardType) {
+        counts.boards += type != 0 ? 1 : 0;
+      }
+    }
+    for (uint32_t i = 0; i < gstFrame.ulSwitchChipLogicPortNum; ++i) {
+      counts.logic_ports += gstFrame.astSwitchChipLogicPort[i].ucSlotOut != 0 ? 1 : 0;
+    }
+    for (uint32_t i = 0; i < gstFrame.ulType2SwitchChipLogicPortNum; ++i) {
+      counts.balance_ports += gstFrame.astType2SwitchChipLogicPort[i].ucSlotOut != 0 ? 1 : 0;
+    }
+    return counts;
+  }
+  bool operator==(const FrameCounts&) const = default;
+  friend std::ostream& operator<<(std::ostream& out, const FrameCounts& counts) {
+    return out << "a frame with a name of " << counts.name_length << " bytes, " << counts.onus
+               << " ONUs, " << counts.users << " users, " << counts.slots << " slots, "
+               << counts.boards << " boards, " << counts.logic_ports << " logic ports, "
+               << counts.balance_ports << " type-2 logic ports";
+  }
+};
+
+// The frame of the complete file.
+constexpr FrameCounts kWholeFrame = {.name_length = 9,
+                                     .onus = 64,
+                                     .users = 128,
+                                     .slots = 6,
+                                     .boards = 3,
+                                     .logic_ports = 2,
+                                     .balance_ports = 2};
 
 // How many records each table holds.
 struct Counts {
@@ -19,6 +73,7 @@ struct Counts {
   uint32_t port_types = 0;
   uint32_t main_boards = 0;
   uint32_t boards = 0;
+  FrameCounts frame = {};
 
   static Counts OfTheTables() {
     return {gstVersionInformation.ulSupportedSoftVerNum,
@@ -26,15 +81,25 @@ struct Counts {
             gstSysSupportFuncType.ulSupportedSysFunctionTypeNum,
             gstSupportedOltPortType.ulSupportedOltPortTypeNum,
             gstSupportedMainBoardType.ulSupportedBoardTypeNum,
-            gstSupportedBoardType.ulSupportedBoardTypeNum};
+            gstSupportedBoardType.ulSupportedBoardTypeNum,
+            FrameCounts::OfTheFrame()};
   }
   bool operator==(const Counts&) const = default;
   friend std::ostream& operator<<(std::ostream& out, const Counts& counts) {
     return out << counts.versions << " versions, " << counts.modules << " modules, "
                << counts.functions << " functions, " << counts.port_types << " port types, "
-               << counts.main_boards << " main boards, " << counts.boards << " boards";
+               << counts.main_boards << " main boards, " << counts.boards << " boards, "
+               << counts.frame;
   }
 };
+
+constexpr Counts kEverything = {.versions = 2,
+                                .modules = 2,
+                                .functions = 2,
+                                .port_types = 2,
+                                .main_boards = 1,
+                                .boards = 2,
+                                .frame = kWholeFrame};
 
 // What a start that meets a fault comes to.
 struct Outcome {
@@ -43,12 +108,61 @@ struct Outcome {
   size_t lost = 0;  // blocks that no table leads to any more
 };
 
+// A start that succeeds, but leaves out what `change` takes away.
+template <typename Change>
+constexpr Outcome EverythingBut(Change change) {
+  Counts loaded = kEverything;
+  change(loaded);
+  return {.loaded = loaded};
+}
+
+// One of the records is left out, and with it what needs it.
+constexpr Outcome kWithoutAModule =
+    EverythingBut([](Counts& all) { all.modules = all.functions = 1; });
+constexpr Outcome kWithoutAFunction = EverythingBut([](Counts& all) { all.functions = 1; });
+constexpr Outcome kWithoutAPortType = EverythingBut([](Counts& all) {
+  all.port_types = all.boards = 1;
+  all.frame.boards = 2;
+});
+constexpr Outcome kWithoutTheMainBoard = EverythingBut([](Counts& all) {
+  all.main_boards = 0;
+  all.frame.boards = 2;
+});
+constexpr Outcome kWithoutABoard = EverythingBut([](Counts& all) {
+  all.boards = 1;
+  all.frame.boards = 2;
+});
+
 // What the driver and its callers say of a loader that failed with `code`.
 inline std::string DriverSays(const std::string& loader, const std::string& code) {
   return "\r\nddParseContextFile->" + loader + " err! iResult = " + code +
          ", strDeviceDefFilePath = /mnt/work/device_definition.ini"
          "\r\nddReadContextFile->ddParseContextFile err! iResult = " +
          code + "ddInit initialize......failed!\r\n";
+}
+
+// What the frame's loader says of a board that a slot takes, but that was left out.
+// What stands in braces is said under the debug switch only.
+inline std::string NoCard(const std::string& name, const std::string& where) {
+  return "{\r\nddGetCardTypeByName err!, pcCardName = " + name +
+         "}\r\nddReadSlotSupportBoard err! iResult = -32, _tmp = " + name + where +
+         ", ulSLotEnd = 2";
+}
+inline std::string NoCardOfBoard(const std::string& number) {
+  return NoCard(number == "1" ? "GP01A" : "ET01G", ", ulSlotListIndex = 0, ulSlotOut = 1");
+}
+inline std::string NoMainCard() {
+  return NoCard("MCXA", ", ulSlotListIndex = 1, ulSlotOut = 2");
+}
+
+// The text without the braces, or without what is in them as well.
+inline std::string Said(std::string text, bool debug) {
+  for (size_t open = 0; (open = text.find('{')) != std::string::npos;) {
+    const size_t close = text.find('}', open);
+    text = text.substr(0, open) + (debug ? text.substr(open + 1, close - open - 1) : "") +
+           text.substr(close + 1);
+  }
+  return text;
 }
 
 }  // namespace test

@@ -6,6 +6,69 @@ namespace {
 
 using std::string;
 
+// ---- What is loaded ----------------------------------------------------------------
+
+// What is loaded when a start stops in a table, of which it has so many records by then.
+constexpr Counts InVersions() {
+  return {};
+}
+constexpr Counts InModules(uint32_t records) {
+  return {.versions = 2, .modules = records};
+}
+constexpr Counts InFunctions(uint32_t records) {
+  return {.versions = 2, .modules = 2, .functions = records};
+}
+constexpr Counts InPortTypes(uint32_t records) {
+  return {.versions = 2, .modules = 2, .functions = 2, .port_types = records};
+}
+constexpr Counts InMainBoards(uint32_t records) {
+  Counts loaded = InPortTypes(2);
+  loaded.main_boards = records;
+  return loaded;
+}
+constexpr Counts InBoards(uint32_t records) {
+  Counts loaded = InMainBoards(1);
+  loaded.boards = records;
+  return loaded;
+}
+constexpr Counts InFrame(const FrameCounts& frame) {
+  Counts loaded = InBoards(2);
+  loaded.frame = frame;
+  return loaded;
+}
+constexpr Counts InSlots(uint32_t slots) {
+  return InFrame({.name_length = 9, .onus = 64, .users = 128, .slots = slots});
+}
+constexpr Counts InSlotBoards(uint32_t boards) {
+  Counts loaded = InSlots(6);
+  loaded.frame.boards = boards;
+  return loaded;
+}
+constexpr Counts InLogicPorts(uint32_t ports) {
+  Counts loaded = InSlotBoards(3);
+  loaded.frame.logic_ports = ports;
+  return loaded;
+}
+
+// ---- What a failure leads to -------------------------------------------------------
+
+constexpr Outcome Failed(const Counts& loaded) {
+  return {.code = -31, .loaded = loaded};
+}
+
+// The start fails, whether all lookups behind it fail as well or not.
+Lookup Stops(const string& console, const Outcome& outcome) {
+  return {console, outcome, outcome};
+}
+Lookup Stops(const string& console, const Counts& loaded) {
+  return Stops(console, Failed(loaded));
+}
+
+// The start goes on, and comes to `once` if nothing else fails; else it stops.
+Lookup LeavesOut(const string& console, const Outcome& once, const Counts& stopped) {
+  return {console, once, Failed(stopped)};
+}
+
 // ---- Modules and functions -------------------------------------------------------
 
 constexpr char kModuleFailed[] =
@@ -24,15 +87,15 @@ string NoModuleKey(const string& number, const string& key) {
          ", key = " + key + kModuleFailed + number;
 }
 string NoFunction(const string& number) {
-  return "\r\nddReadSysSupportFuncInformation err! iResult = %, section = "
+  return "{\r\nddReadSysSupportFuncInformation err! iResult = %, section = "
          "SupportedSysFunctionType, key = SupportedSysFunction" +
-         number;
+         number + "}";
 }
 // What the function list says of a module that was left out.
 string NoModule(const string& name) {
-  return "\r\nddReadSysSupportFuncInformation->ddGetModuleTypeByName err! iResult = -32, "
+  return "{\r\nddReadSysSupportFuncInformation->ddGetModuleTypeByName err! iResult = -32, "
          "strValueBuf = " +
-         name;
+         name + "}";
 }
 
 // ---- OLT port types ----------------------------------------------------------------
@@ -130,136 +193,194 @@ string NoSpecialPorts(const string& number) {
   return NoBoardPorts("ddAddSupportedSpecialPortToBoardObj", number, "SpecialPortNum", "-31");
 }
 
+// ---- The frame ---------------------------------------------------------------------
+
+constexpr char kPlainReader[] = "ddReadSwitchChipLogicPortToSlotPort";
+constexpr char kBalanceReader[] = "read_balance_switch_logicport_to_portinfo";
+
+string NoFrameKey(const string& shown_as, const string& key) {
+  return "\r\nddReadFrameInformation err! iResult = %, strSectionFrameNameBuf = "
+         "KT3300-L_FrameInfomation, " +
+         shown_as + " = " + key + DriverSays("ddReadFrameInformation", "-31");
+}
+string NoSlotKey(const string& word, const string& ending, const string& code) {
+  return "\r\nddReadOneSlotClass err! iResult = %, section = KT3300-L_FrameInfomation, key = " +
+         word + ending + "\r\nddReadFrameInformation->ddReadOneSlotClass err! iResult = " + code +
+         ", strSectionFrameNameBuf = KT3300-L_FrameInfomation, Key = " + word +
+         DriverSays("ddReadFrameInformation", code);
+}
+string NoSlotAmount(const string& word) {
+  return NoSlotKey(word, "Num", "-31");
+}
+string NoSlotList(const string& word) {
+  return NoSlotKey(word, "List", "%");
+}
+string NoSlotBoards(const string& slot) {
+  return "\r\nddReadSlotSupportBoard err! iResult = %, section = KT3300-L_FrameInfomation, "
+         "key = SupportedBoardTypeSlot" +
+         slot;
+}
+string NoLogicPort(const string& reader, const string& key) {
+  return "\r\n" + reader + " err! iResult = %, section = KT3300-L_FrameInfomation, key = " + key;
+}
+string NoLogicPortAmount(const string& reader, const string& key) {
+  return NoLogicPort(reader, key) + "{\r\nddReadFrameInformation->" + reader +
+         " err! iResult = -31, strSectionFrameNameBuf = KT3300-L_FrameInfomation}" +
+         DriverSays("ddReadFrameInformation", "-31");
+}
+
 }  // namespace
 
 const std::vector<Lookup>& Lookups() {
   static const std::vector<Lookup> lookups = {
       // Versions
-      {"\r\nddReadVersionInformation err! iResult = %, section = Version, key = Version" +
-           DriverSays("ddReadVersionInformation", "-31"),
-       "",
-       {-31, {}},
-       {-31, {}}},
+      Stops("\r\nddReadVersionInformation err! iResult = %, section = Version, key = Version" +
+                DriverSays("ddReadVersionInformation", "-31"),
+            InVersions()),
 
       // Modules
-      {"\r\nddReadAllModuleInformation err! iResult = %, section = ModuleTypeList, key = "
-       "ModuleNum" +
-           DriverSays("ddReadAllModuleInformation", "-31"),
-       "",
-       {-31, {2}},
-       {-31, {2}}},
-      {NoModuleEntry("1"), NoModule("OMCI"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2}}},
-      {NoModuleType("1"), NoModule("OMCI"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2}}},
-      {NoModuleKey("1", "Name"), NoModule("OMCI"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2}}},
-      {NoModuleKey("1", "Size"), NoModule("OMCI"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2}}},
-      {NoModuleEntry("2"), NoModule("VLAN"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2, 1}}},
-      {NoModuleType("2"), NoModule("VLAN"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2, 1}}},
-      {NoModuleKey("2", "Name"), NoModule("VLAN"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2, 1}}},
-      {NoModuleKey("2", "Size"), NoModule("VLAN"), {0, {2, 1, 1, 2, 1, 2}}, {-31, {2, 1}}},
+      Stops("\r\nddReadAllModuleInformation err! iResult = %, section = ModuleTypeList, key = "
+            "ModuleNum" +
+                DriverSays("ddReadAllModuleInformation", "-31"),
+            InModules(0)),
+      LeavesOut(NoModuleEntry("1") + NoModule("OMCI"), kWithoutAModule, InModules(0)),
+      LeavesOut(NoModuleType("1") + NoModule("OMCI"), kWithoutAModule, InModules(0)),
+      LeavesOut(NoModuleKey("1", "Name") + NoModule("OMCI"), kWithoutAModule, InModules(0)),
+      LeavesOut(NoModuleKey("1", "Size") + NoModule("OMCI"), kWithoutAModule, InModules(0)),
+      LeavesOut(NoModuleEntry("2") + NoModule("VLAN"), kWithoutAModule, InModules(1)),
+      LeavesOut(NoModuleType("2") + NoModule("VLAN"), kWithoutAModule, InModules(1)),
+      LeavesOut(NoModuleKey("2", "Name") + NoModule("VLAN"), kWithoutAModule, InModules(1)),
+      LeavesOut(NoModuleKey("2", "Size") + NoModule("VLAN"), kWithoutAModule, InModules(1)),
 
       // Functions
-      {DriverSays("ddReadSysSupportFuncInformation", "-31"),
-       "\r\nddReadSysSupportFuncInformation err! iResult = %, section = SupportedSysFunctionType, "
-       "key = SupportedSysFunctionTypeNum",
-       {-31, {2, 2}},
-       {-31, {2, 2}}},
-      {"", NoFunction("1"), {0, {2, 2, 1, 2, 1, 2}}, {-31, {2, 2}}},
-      {"", NoFunction("2"), {0, {2, 2, 1, 2, 1, 2}}, {-31, {2, 2, 1}}},
+      Stops(
+          "{\r\nddReadSysSupportFuncInformation err! iResult = %, section = SupportedSysFunctionType, "
+          "key = SupportedSysFunctionTypeNum}" +
+              DriverSays("ddReadSysSupportFuncInformation", "-31"),
+          InFunctions(0)),
+      LeavesOut(NoFunction("1"), kWithoutAFunction, InFunctions(0)),
+      LeavesOut(NoFunction("2"), kWithoutAFunction, InFunctions(1)),
 
       // OLT port types; a board is left out with its port's type
-      {"\r\nddReadAllSupportedOltPortInformation err! iResult = %, section = "
-       "SupportedOltPortType, key = SupportedOltPortTypeNum" +
-           DriverSays("ddReadAllSupportedOltPortInformation", "-31"),
-       "",
-       {-31, {2, 2, 2}},
-       {-31, {2, 2, 2}}},
-      {NoPortTypeEntry("1"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2}}},
-      {NoPortTypeType("1"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2}}},
-      {NoPortTypeKey("1", "Name"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2}}},
-      {NoPortTypeKey("1", "SplittingRatio"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2}}},
-      {NoPortTypeEntry("2"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2, 1}}},
-      {NoPortTypeType("2"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2, 1}}},
-      {NoPortTypeKey("2", "Name"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2, 1}}},
-      {NoPortTypeKey("2", "SplittingRatio"), "", {0, {2, 2, 2, 1, 1, 1}}, {-31, {2, 2, 2, 1}}},
+      Stops("\r\nddReadAllSupportedOltPortInformation err! iResult = %, section = "
+            "SupportedOltPortType, key = SupportedOltPortTypeNum" +
+                DriverSays("ddReadAllSupportedOltPortInformation", "-31"),
+            InPortTypes(0)),
+      LeavesOut(NoPortTypeEntry("1") + NoCardOfBoard("1"), kWithoutAPortType, InPortTypes(0)),
+      LeavesOut(NoPortTypeType("1") + NoCardOfBoard("1"), kWithoutAPortType, InPortTypes(0)),
+      LeavesOut(NoPortTypeKey("1", "Name") + NoCardOfBoard("1"), kWithoutAPortType, InPortTypes(0)),
+      LeavesOut(NoPortTypeKey("1", "SplittingRatio") + NoCardOfBoard("1"), kWithoutAPortType,
+                InPortTypes(0)),
+      LeavesOut(NoPortTypeEntry("2") + NoCardOfBoard("2"), kWithoutAPortType, InPortTypes(1)),
+      LeavesOut(NoPortTypeType("2") + NoCardOfBoard("2"), kWithoutAPortType, InPortTypes(1)),
+      LeavesOut(NoPortTypeKey("2", "Name") + NoCardOfBoard("2"), kWithoutAPortType, InPortTypes(1)),
+      LeavesOut(NoPortTypeKey("2", "SplittingRatio") + NoCardOfBoard("2"), kWithoutAPortType,
+                InPortTypes(1)),
 
       // Main boards, in part in the words of the service boards
-      {"\r\nddReadAllSupportedBoardInformation err! iResult = %, section = "
-       "SupportedMainBoardType, key = SupportedMainBoardTypeNum" +
-           DriverSays("ddReadAllSupportedMainBoardInformation", "-31"),
-       "",
-       {-31, {2, 2, 2, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {"\r\nddReadAllSupportedBoardInformation err! iResult = %, section = "
-       "SupportedMainBoardType, key = SupportedMainBoardType1",
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {string("\r\nddReadOneSupportedMainBoardInformation err! iResult = %, "
-              "strSectionFrameNameBuf = M1, Key = Type") +
-           kMainBoardFailed,
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {string("\r\nddReadOneSupportedMainBoardInformation err! iResult = %, section = M1, "
-              "key = Name") +
-           kMainBoardFailed,
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {string("\r\nddReadAllSwitchChipLogicPortToPhyPort err! iResult = %, "
-              "strSectionFrameNameBuf = M1, Key = SwitchChipLogicPortNum") +
-           kMapsFailed,
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {NoDefaultPair(), "", {0, {2, 2, 2, 2, 0, 2}}, {-31, {2, 2, 2, 2}}},
-      {NoSpecialMap("\r\nddReadSpecialSwitchChipLogicPortToPhyPort err! iResult = %, "
-                    "strSectionFrameNameBuf = M1, Key = SpecialChipLogicPortMapPhyPortNum"),
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {NoSpecialMap("\r\nddReadSpecialSwitchChipLogicPortToPhyPort err! iResult = %, "
-                    "strSectionFrameNameBuf = M1, Key = SpecialChipLogicPortMapPhyPortCard1, "
-                    "ulSpecialMapIndex = 0"),
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
-      {NoSpecialMap("\r\nddReadOneSwitchChipLogicPortToPhyPort err! iResult = %, "
-                    "strSectionFrameNameBuf = M1, Key = UP4X_SwitchChipLogicPort1, "
-                    "ulSwitchChipLogicPortIndex = 0"
-                    "\r\nddReadSpecialSwitchChipLogicPortToPhyPort->"
-                    "ddReadOneSwitchChipLogicPortToPhyPort err! iResult = -31, "
-                    "strSectionFrameNameBuf = M1, ulSwitchChipLogicPortNum = 1, "
-                    "Key = UP4X_SwitchChipLogicPort, ulSpecialMapIndex = 0"),
-       "",
-       {0, {2, 2, 2, 2, 0, 2}},
-       {-31, {2, 2, 2, 2}}},
+      Stops("\r\nddReadAllSupportedBoardInformation err! iResult = %, section = "
+            "SupportedMainBoardType, key = SupportedMainBoardTypeNum" +
+                DriverSays("ddReadAllSupportedMainBoardInformation", "-31"),
+            InMainBoards(0)),
+      LeavesOut("\r\nddReadAllSupportedBoardInformation err! iResult = %, section = "
+                "SupportedMainBoardType, key = SupportedMainBoardType1" +
+                    NoMainCard(),
+                kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(string("\r\nddReadOneSupportedMainBoardInformation err! iResult = %, "
+                       "strSectionFrameNameBuf = M1, Key = Type") +
+                    kMainBoardFailed + NoMainCard(),
+                kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(string("\r\nddReadOneSupportedMainBoardInformation err! iResult = %, section = M1, "
+                       "key = Name") +
+                    kMainBoardFailed + NoMainCard(),
+                kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(string("\r\nddReadAllSwitchChipLogicPortToPhyPort err! iResult = %, "
+                       "strSectionFrameNameBuf = M1, Key = SwitchChipLogicPortNum") +
+                    kMapsFailed + NoMainCard(),
+                kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(NoDefaultPair() + NoMainCard(), kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(
+          NoSpecialMap("\r\nddReadSpecialSwitchChipLogicPortToPhyPort err! iResult = %, "
+                       "strSectionFrameNameBuf = M1, Key = SpecialChipLogicPortMapPhyPortNum") +
+              NoMainCard(),
+          kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(
+          NoSpecialMap("\r\nddReadSpecialSwitchChipLogicPortToPhyPort err! iResult = %, "
+                       "strSectionFrameNameBuf = M1, Key = SpecialChipLogicPortMapPhyPortCard1, "
+                       "ulSpecialMapIndex = 0") +
+              NoMainCard(),
+          kWithoutTheMainBoard, InMainBoards(0)),
+      LeavesOut(NoSpecialMap("\r\nddReadOneSwitchChipLogicPortToPhyPort err! iResult = %, "
+                             "strSectionFrameNameBuf = M1, Key = UP4X_SwitchChipLogicPort1, "
+                             "ulSwitchChipLogicPortIndex = 0"
+                             "\r\nddReadSpecialSwitchChipLogicPortToPhyPort->"
+                             "ddReadOneSwitchChipLogicPortToPhyPort err! iResult = -31, "
+                             "strSectionFrameNameBuf = M1, ulSwitchChipLogicPortNum = 1, "
+                             "Key = UP4X_SwitchChipLogicPort, ulSpecialMapIndex = 0") +
+                    NoMainCard(),
+                kWithoutTheMainBoard, InMainBoards(0)),
 
       // Service boards; without the section of the second one the first one's
       // record, its list of ports and its port are lost
-      {"\r\nddReadAllSupportedBoardInformation err! iResult = %, section = SupportedBoardType, "
-       "key = SupportedBoardTypeNum" +
-           DriverSays("ddReadAllSupportedBoardInformation", "-31"),
-       "",
-       {-31, {2, 2, 2, 2, 1}},
-       {-31, {2, 2, 2, 2, 1}}},
-      {NoBoardEntry("1"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-      {NoBoardSection("1"), "", {-31, {2, 2, 2, 2, 1}}, {-31, {2, 2, 2, 2, 1}}},
-      {NoBoardType("1"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-      {NoBoardName("1"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-      {NoServePorts("1", "PortNum", "-31"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-      {NoServePorts("1", "NameKeyPort1", "-1"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-      {NoSpecialPorts("1"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-      {NoBoardEntry("2"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
-      {NoBoardSection("2"), "", {-31, {2, 2, 2, 2, 1}, 3}, {-31, {2, 2, 2, 2, 1}, 3}},
-      {NoBoardType("2"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
-      {NoBoardName("2"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
-      {NoServePorts("2", "PortNum", "-31"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
-      {NoServePorts("2", "NameKeyPort1", "-1"),
-       "",
-       {0, {2, 2, 2, 2, 1, 1}},
-       {0, {2, 2, 2, 2, 1, 1}}},
-      {NoSpecialPorts("2"), "", {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
+      Stops(
+          "\r\nddReadAllSupportedBoardInformation err! iResult = %, section = SupportedBoardType, "
+          "key = SupportedBoardTypeNum" +
+              DriverSays("ddReadAllSupportedBoardInformation", "-31"),
+          InBoards(0)),
+      LeavesOut(NoBoardEntry("1") + NoCardOfBoard("1"), kWithoutABoard, InBoards(0)),
+      Stops(NoBoardSection("1"), InBoards(0)),
+      LeavesOut(NoBoardType("1") + NoCardOfBoard("1"), kWithoutABoard, InBoards(0)),
+      LeavesOut(NoBoardName("1") + NoCardOfBoard("1"), kWithoutABoard, InBoards(0)),
+      LeavesOut(NoServePorts("1", "PortNum", "-31") + NoCardOfBoard("1"), kWithoutABoard,
+                InBoards(0)),
+      LeavesOut(NoServePorts("1", "NameKeyPort1", "-1") + NoCardOfBoard("1"), kWithoutABoard,
+                InBoards(0)),
+      LeavesOut(NoSpecialPorts("1") + NoCardOfBoard("1"), kWithoutABoard, InBoards(0)),
+      LeavesOut(NoBoardEntry("2") + NoCardOfBoard("2"), kWithoutABoard, InBoards(1)),
+      Stops(NoBoardSection("2"), {.code = -31, .loaded = InBoards(0), .lost = 3}),
+      LeavesOut(NoBoardType("2") + NoCardOfBoard("2"), kWithoutABoard, InBoards(1)),
+      LeavesOut(NoBoardName("2") + NoCardOfBoard("2"), kWithoutABoard, InBoards(1)),
+      LeavesOut(NoServePorts("2", "PortNum", "-31") + NoCardOfBoard("2"), kWithoutABoard,
+                InBoards(1)),
+      LeavesOut(NoServePorts("2", "NameKeyPort1", "-1") + NoCardOfBoard("2"), kWithoutABoard,
+                InBoards(1)),
+      LeavesOut(NoSpecialPorts("2") + NoCardOfBoard("2"), kWithoutABoard, InBoards(1)),
+
+      // The frame
+      Stops(NoFrameKey("dd_gstrKeyFrameType", "Type"), InFrame({})),
+      Stops(NoFrameKey("dd_gstrKeyFrameName", "Name"), InFrame({})),
+      Stops(NoFrameKey("Key", "MaxOnuNum"), InFrame({.name_length = 9})),
+      Stops(NoFrameKey("Key", "MaxUserNum"), InFrame({.name_length = 9, .onus = 64})),
+      Stops(NoSlotAmount("RealSlot"), InSlots(0)),
+      Stops(NoSlotList("RealSlot"), {.code = kOwnCode, .loaded = InSlots(2)}),
+      Stops(NoSlotAmount("VirtualSlot"), InSlots(2)),
+      Stops(NoSlotList("VirtualSlot"), {.code = kOwnCode, .loaded = InSlots(3)}),
+      Stops(NoSlotAmount("HcuSlot"), InSlots(3)),
+      Stops(NoSlotList("HcuSlot"), {.code = kOwnCode, .loaded = InSlots(4)}),
+      Stops(NoSlotAmount("FanSlot"), InSlots(4)),
+      Stops(NoSlotAmount("CioSlot"), InSlots(4)),
+      Stops(NoSlotAmount("PowerSlot"), InSlots(4)),
+      Stops(NoSlotAmount("ServeBoardSlot"), InSlots(4)),
+      Stops(NoSlotList("ServeBoardSlot"), {.code = kOwnCode, .loaded = InSlots(5)}),
+      Stops(NoSlotAmount("MainSlot"), InSlots(5)),
+      Stops(NoSlotList("MainSlot"), {.code = kOwnCode, .loaded = InSlots(6)}),
+      Stops(NoSlotAmount("UplinkSlot"), InSlots(6)),
+      LeavesOut(NoSlotBoards("1"), EverythingBut([](Counts& all) { all.frame.boards = 1; }),
+                InSlots(6)),
+      LeavesOut(NoSlotBoards("2"), EverythingBut([](Counts& all) { all.frame.boards = 2; }),
+                InSlotBoards(2)),
+      Stops(NoLogicPortAmount(kPlainReader, "SwitchChipLogicPortNum"), InSlotBoards(3)),
+      LeavesOut(NoLogicPort(kPlainReader, "SwitchChipLogicPort1"),
+                EverythingBut([](Counts& all) { all.frame.logic_ports = 1; }), InSlotBoards(3)),
+      LeavesOut(NoLogicPort(kPlainReader, "SwitchChipLogicPort2"),
+                EverythingBut([](Counts& all) { all.frame.logic_ports = 1; }), InLogicPorts(1)),
+      Stops(NoLogicPortAmount(kBalanceReader, "Type2SwitchChipLogicPortNum"), InLogicPorts(2)),
+      {NoLogicPort(kBalanceReader, "Type2SwitchChipLogicPort1"),
+       EverythingBut([](Counts& all) { all.frame.balance_ports = 1; }),
+       EverythingBut([](Counts& all) { all.frame.balance_ports = 0; })},
+      {NoLogicPort(kBalanceReader, "Type2SwitchChipLogicPort2"),
+       EverythingBut([](Counts& all) { all.frame.balance_ports = 1; }),
+       EverythingBut([](Counts& all) { all.frame.balance_ports = 1; })},
   };
   return lookups;
 }

@@ -9,15 +9,16 @@
 namespace test {
 
 struct Lookup {
-  // What is said if it alone fails, with the code that stands for the "%", and
-  // what is said more under the debug switch: by the function list, that is
-  // between the modules' words and those of the tables behind it.
+  // What is said if it alone fails, with the code that stands for the "%". What
+  // stands in braces is said under the debug switch only.
   std::string console;
-  std::string debug_console;
 
   Outcome once;      // if it alone fails
   Outcome for_ever;  // if all behind it fail as well
 };
+
+// In an outcome: the code with which the lookup failed.
+constexpr int32_t kOwnCode = 1;
 
 // In the order in which they are made.
 const std::vector<Lookup>& Lookups();

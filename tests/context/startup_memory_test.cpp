@@ -13,6 +13,12 @@ using test::Counts;
 using test::DeviceFile;
 using test::DriverSays;
 using test::FaultPlan;
+using test::kWithoutABoard;
+using test::kWithoutAModule;
+using test::kWithoutAPortType;
+using test::kWithoutTheMainBoard;
+using test::NoCardOfBoard;
+using test::NoMainCard;
 using test::Outcome;
 
 constexpr char kNoBuffer[] =
@@ -54,6 +60,7 @@ TEST_F(StartupMemory, NoMemoryForTheWorkBufferLeavesEmptyTables) {
   gstSupportedOltPortType.ulSupportedOltPortTypeNum = 9;
   gstSupportedMainBoardType.ulSupportedBoardTypeNum = 9;
   gstSupportedBoardType.ulSupportedBoardTypeNum = 9;
+  gstFrame.ulNameLen = 9;
   DeviceFile device;
   device.faults.allocations.FailFrom(1, 1);
   EXPECT_EQ(ddInit(), -1);
@@ -71,7 +78,10 @@ string NoModule(const string& number) {
   return "\r\nddReadOneModuleInformation->malloc err! pstModuleInformation = 0x0"
          "\r\nddReadAllModuleInformation->ddReadOneModuleInformation err! iResult = -27, "
          "section = S" +
-         number;
+         number +
+         "{\r\nddReadSysSupportFuncInformation->ddGetModuleTypeByName err! iResult = -32, "
+         "strValueBuf = " +
+         (number == "1" ? "OMCI" : "VLAN") + "}";
 }
 // The board whose port is of that type is left out with it.
 string NoPortType(const string& number) {
@@ -105,10 +115,13 @@ string NoPort(const string& number) {
          number + kBoardFailed + "-1, section = B" + number;
 }
 
+// The frame when the loader finds no room for the boards of its slots.
+constexpr test::FrameCounts kFrameWithoutRows = {9, 64, 128, 6};
+
 // In the order in which they are made.
 struct AllocationRow {
   const char* name;
-  string console;    // what is said if it alone fails
+  string console;    // what is said if it alone fails; in braces: under the debug switch
   Outcome once;      // if it alone fails
   Outcome for_ever;  // if all behind it fail as well
 };
@@ -120,15 +133,18 @@ const AllocationRow kAllocations[] = {
          DriverSays("ddReadAllModuleInformation", "-27"),
      {-27, {2}},
      {-27, {2}}},
-    {"FirstModule", NoModule("1"), {0, {2, 1, 1, 2, 1, 2}}, {-27, {2}}},
-    {"SecondModule", NoModule("2"), {0, {2, 1, 1, 2, 1, 2}}, {-27, {2, 1, 1}}},
+    {"FirstModule", NoModule("1"), kWithoutAModule, {-27, {2}}},
+    {"SecondModule", NoModule("2"), kWithoutAModule, {-27, {2, 1, 1}}},
     {"PortTypeList",
      "\r\nddReadAllSupportedOltPortInformation->malloc err! pOltPortTypeArray = 0x0" +
          DriverSays("ddReadAllSupportedOltPortInformation", "-27"),
      {-27, {2, 2, 2}},
      {-27, {2, 2, 2}}},
-    {"FirstPortType", NoPortType("1"), {0, {2, 2, 2, 1, 1, 1}}, {-27, {2, 2, 2}}},
-    {"SecondPortType", NoPortType("2"), {0, {2, 2, 2, 1, 1, 1}}, {-27, {2, 2, 2, 1}}},
+    {"FirstPortType", NoPortType("1") + NoCardOfBoard("1"), kWithoutAPortType, {-27, {2, 2, 2}}},
+    {"SecondPortType",
+     NoPortType("2") + NoCardOfBoard("2"),
+     kWithoutAPortType,
+     {-27, {2, 2, 2, 1}}},
     {"MainBoardList",
      "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0" +
          DriverSays("ddReadAllSupportedMainBoardInformation", "-27"),
@@ -137,20 +153,45 @@ const AllocationRow kAllocations[] = {
     {"MainBoard",
      string("\r\nddReadOneSupportedMainBoardInformation->malloc err! "
             "pstMainBoardInformation = 0x0") +
-         kBoardFailed + "-27, section = M1",
-     {0, {2, 2, 2, 2, 0, 2}},
+         kBoardFailed + "-27, section = M1" + NoMainCard(),
+     kWithoutTheMainBoard,
      {-27, {2, 2, 2, 2}}},
     {"BoardList",
      "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0" +
          DriverSays("ddReadAllSupportedBoardInformation", "-27"),
      {-27, {2, 2, 2, 2, 1}},
      {-27, {2, 2, 2, 2, 1}}},
-    {"FirstBoard", NoBoard("1"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-    {"FirstBoardsPorts", NoPorts("1"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-    {"FirstBoardsPort", NoPort("1"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1}}},
-    {"SecondBoard", NoBoard("2"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
-    {"SecondBoardsPorts", NoPorts("2"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
-    {"SecondBoardsPort", NoPort("2"), {0, {2, 2, 2, 2, 1, 1}}, {0, {2, 2, 2, 2, 1, 1}}},
+    {"FirstBoard",
+     NoBoard("1") + NoCardOfBoard("1"),
+     kWithoutABoard,
+     {-27, {2, 2, 2, 2, 1, 0, kFrameWithoutRows}}},
+    {"FirstBoardsPorts",
+     NoPorts("1") + NoCardOfBoard("1"),
+     kWithoutABoard,
+     {-27, {2, 2, 2, 2, 1, 0, kFrameWithoutRows}}},
+    {"FirstBoardsPort",
+     NoPort("1") + NoCardOfBoard("1"),
+     kWithoutABoard,
+     {-27, {2, 2, 2, 2, 1, 0, kFrameWithoutRows}}},
+    {"SecondBoard",
+     NoBoard("2") + NoCardOfBoard("2"),
+     kWithoutABoard,
+     {-27, {2, 2, 2, 2, 1, 1, kFrameWithoutRows}}},
+    {"SecondBoardsPorts",
+     NoPorts("2") + NoCardOfBoard("2"),
+     kWithoutABoard,
+     {-27, {2, 2, 2, 2, 1, 1, kFrameWithoutRows}}},
+    {"SecondBoardsPort",
+     NoPort("2") + NoCardOfBoard("2"),
+     kWithoutABoard,
+     {-27, {2, 2, 2, 2, 1, 1, kFrameWithoutRows}}},
+    {"BoardsOfTheSlots",
+     "\r\nddReadSlotSupportBoard->malloc err! gstFrame.pstSlotArray = 0x0"
+     "{\r\nddReadFrameInformation->ddReadSlotSupportBoard err! iResult = -27, "
+     "strSectionFrameNameBuf = KT3300-L_FrameInfomation}" +
+         DriverSays("ddReadFrameInformation", "-27"),
+     {-27, {2, 2, 2, 2, 1, 2, kFrameWithoutRows}},
+     {-27, {2, 2, 2, 2, 1, 2, kFrameWithoutRows}}},
 };
 
 TEST_F(StartupMemory, AStartMakesTheseAllocations) {
@@ -165,8 +206,12 @@ TEST_F(StartupMemory, OneAllocationFails) {
   int failing = 0;
   for (const AllocationRow& row : kAllocations) {
     SCOPED_TRACE(row.name);
-    ExpectStart(++failing, 1, row.once);
-    EXPECT_EQ(console_.Text(), row.console);
+    ++failing;
+    for (const int32_t debug : {0, 1}) {
+      ddDebugPrint = debug;
+      ExpectStart(failing, 1, row.once);
+      EXPECT_EQ(console_.Text(), test::Said(row.console, debug != 0));
+    }
   }
 }
 

@@ -1,6 +1,8 @@
 // Start-up: what is loaded in which order, what a failing step leaves, and
 // what is said about it.
 #include <algorithm>
+#include <cstddef>
+#include <cstdlib>
 #include <cstring>
 #include <ostream>
 #include <string>
@@ -9,6 +11,8 @@
 #include "context/device_file.h"
 #include "support/leaks.h"
 #include "support/tables.h"
+#include "support/text.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 
 namespace {
@@ -17,8 +21,9 @@ using std::string;
 using test::DeviceFile;
 
 // What the tables of the complete file lead to: four arrays, two modules, two port
-// types, a main board, and two boards, each with an array and a port.
-constexpr size_t kBlocks = 4 + 2 + 2 + 1 + 2 * 3;
+// types, a main board, two boards, each with an array and a port, and the boards of
+// the slots.
+constexpr size_t kBlocks = 4 + 2 + 2 + 1 + 2 * 3 + 1;
 
 class Startup : public test::LibraryTest {
  protected:
@@ -58,6 +63,37 @@ class Startup : public test::LibraryTest {
     ASSERT_EQ(boards[0]->ulTotalServePortNum, 1u);
     EXPECT_STREQ(boards[0]->pPortArray[0]->acName, "GPON");
   }
+  static void ExpectSlots(const SlotClassInformation& slots, uint32_t amount, uint32_t start,
+                          uint32_t end) {
+    EXPECT_EQ(slots.ulSlotAmount, amount);
+    EXPECT_EQ(slots.ulSlotStart, start);
+    EXPECT_EQ(slots.ulSlotEnd, end);
+    EXPECT_EQ(slots.ucSlotArray[0], start);
+  }
+  static void ExpectFrame() {
+    EXPECT_EQ(gstFrame.eType, 15);
+    EXPECT_EQ(gstFrame.ulNameLen, 9u);
+    EXPECT_STREQ(gstFrame.acName, "KT3300-L");
+    EXPECT_EQ(gstFrame.ulMaxOnuNum, 64u);
+    EXPECT_EQ(gstFrame.ulMaxUserNum, 128u);
+    ExpectSlots(gstFrame.stRealSlot, 2, 1, 2);
+    ExpectSlots(gstFrame.stVirtualSlot, 1, 31, 31);
+    ExpectSlots(gstFrame.stHcuSlot, 1, 801, 801);
+    ExpectSlots(gstFrame.stFanSlot, 0, 0, 0);
+    ExpectSlots(gstFrame.stPowerSlot, 0, 0, 0);
+    ExpectSlots(gstFrame.stCioSlot, 0, 0, 0);
+    ExpectSlots(gstFrame.stServeBoardSlot, 1, 1, 1);
+    ExpectSlots(gstFrame.stMainSlot, 1, 2, 2);
+    ExpectSlots(gstFrame.stUplinkSlot, 0, 0, 0);
+    ASSERT_NE(gstFrame.pstSlotArray, nullptr);
+    EXPECT_EQ(gstFrame.pstSlotArray[1].aulBoardType[0], 3102u);
+    EXPECT_EQ(gstFrame.pstSlotArray[1].aulBoardType[1], 3201u);
+    EXPECT_EQ(gstFrame.pstSlotArray[2].aulBoardType[0], 101u);
+    ASSERT_EQ(gstFrame.ulSwitchChipLogicPortNum, 2u);
+    EXPECT_EQ(gstFrame.astSwitchChipLogicPort[1].ucSlotPort, 4);
+    ASSERT_EQ(gstFrame.ulType2SwitchChipLogicPortNum, 2u);
+    EXPECT_EQ(gstFrame.astType2SwitchChipLogicPort[1].usPhyPort, 6);
+  }
   static void ExpectEverything() {
     ExpectVersions();
     ExpectModules();
@@ -65,12 +101,16 @@ class Startup : public test::LibraryTest {
     ExpectPortTypes();
     ExpectMainBoards();
     ExpectBoards();
+    ExpectFrame();
+  }
+  static bool AreZero(const void* bytes, size_t size) {
+    const char* const begin = static_cast<const char*>(bytes);
+    return std::all_of(begin, begin + size, [](char byte) { return byte == 0; });
   }
   // Every byte of a table, or every field.
   template <typename Table>
   static bool IsZero(const Table& table) {
-    const char* const bytes = reinterpret_cast<const char*>(&table);
-    return std::all_of(bytes, bytes + sizeof table, [](char byte) { return byte == 0; });
+    return AreZero(&table, sizeof table);
   }
   static bool IsZero(const ModuleTypeList& table) {
     return table.ulModuleTypeNum == 0 && table.pModuleTypeArray == nullptr;
@@ -85,6 +125,18 @@ class Startup : public test::LibraryTest {
     return table.ulSupportedBoardTypeNum == 0 && table.pBoardTypeArray == nullptr &&
            table.ulSupportedBoardMaxPonType == 0 && table.ulSupportedBoardMaxPonNum == 0;
   }
+  static bool IsZero(const FrameInformation& frame) {
+    const auto is_zero = [](const BalanceSwitchLogicPortInfo& entry) {
+      return entry.ucSlotOut == 0 && entry.ucSlotPort == 0 && entry.usChipPort == 0 &&
+             entry.usPhyPort == 0 && entry.ucHigigFlag == 0;
+    };
+    return AreZero(&frame, offsetof(FrameInformation, pstSlotArray)) &&
+           frame.pstSlotArray == nullptr && frame.ulSwitchChipLogicPortNum == 0 &&
+           AreZero(frame.astSwitchChipLogicPort, sizeof frame.astSwitchChipLogicPort) &&
+           frame.ulType2SwitchChipLogicPortNum == 0 &&
+           std::all_of(std::begin(frame.astType2SwitchChipLogicPort),
+                       std::end(frame.astType2SwitchChipLogicPort), is_zero);
+  }
   static void ExpectAllZero() {
     EXPECT_TRUE(IsZero(gstVersionInformation));
     EXPECT_TRUE(IsZero(gstModuleTypeList));
@@ -92,6 +144,7 @@ class Startup : public test::LibraryTest {
     EXPECT_TRUE(IsZero(gstSupportedOltPortType));
     EXPECT_TRUE(IsZero(gstSupportedMainBoardType));
     EXPECT_TRUE(IsZero(gstSupportedBoardType));
+    EXPECT_TRUE(IsZero(gstFrame));
   }
   // Leaves over from an earlier life.
   static void FillWithOldData() {
@@ -101,6 +154,7 @@ class Startup : public test::LibraryTest {
     gstSupportedOltPortType = {9, SomeAddress<OltPortInformation*>()};
     gstSupportedMainBoardType = {9, SomeAddress<MainBoardInformation*>()};
     gstSupportedBoardType = {9, SomeAddress<BoardInformation*>(), 8, 7};
+    std::memset(&gstFrame, 0x5a, sizeof gstFrame);
   }
   template <typename Record>
   static Record* SomeAddress() {
@@ -169,17 +223,33 @@ TEST_F(Startup, ClearsTheWholeTablesBeforeTheLoad) {
       "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=0\n"
       "[SupportedOltPortType]\nSupportedOltPortTypeNum=0\n"
       "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=0\n"
-      "[SupportedBoardType]\nSupportedBoardTypeNum=0\n");
+      "[SupportedBoardType]\nSupportedBoardTypeNum=0\n"
+      "[KT3300-L_FrameInfomation]\nType=0\nName=F\nMaxOnuNum=0\nMaxUserNum=0\n"
+      "RealSlotNum=1\nRealSlotList=1\nVirtualSlotNum=0\nHcuSlotNum=0\nFanSlotNum=0\nCioSlotNum=0\n"
+      "PowerSlotNum=0\nServeBoardSlotNum=0\nMainSlotNum=0\nUplinkSlotNum=0\n"
+      "SwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n");
   EXPECT_EQ(ddInit(), 0);
   EXPECT_EQ(console_.Text(),
             "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 0"
             "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = 0"
-            "\r\nddReadAllSupportedBoardInformation ok! ulSupportedOnuTypeNum = 0");
+            "\r\nddReadAllSupportedBoardInformation ok! ulSupportedOnuTypeNum = 0"
+            "\r\nddReadSlotSupportBoard err! iResult = -2, section = KT3300-L_FrameInfomation, "
+            "key = SupportedBoardTypeSlot1");
   VersionInformation versions = {};
   versions.ulSupportedSoftVerNum = 1;
   versions.astSupportedSoftVer[0] = {2, "V"};
   EXPECT_EQ(std::memcmp(&gstVersionInformation, &versions, sizeof versions), 0);
   gstVersionInformation = {};
+  // What was loaded of the frame; the rest of it must be zero.
+  EXPECT_STREQ(gstFrame.acName, "F");
+  ASSERT_NE(gstFrame.pstSlotArray, nullptr);
+  std::free(gstFrame.pstSlotArray);
+  gstFrame.pstSlotArray = nullptr;
+  gstFrame.ulNameLen = 0;
+  gstFrame.acName[0] = '\0';
+  SlotClassInformation& real = gstFrame.stRealSlot;
+  ExpectSlots(real, 1, 1, 1);
+  real.ulSlotAmount = real.ulSlotStart = real.ulSlotEnd = real.ucSlotArray[0] = 0;
   ExpectAllZero();
 }
 
@@ -211,10 +281,11 @@ struct FailRow {
   const char* name;
   string file;
   int32_t code;
-  size_t steps_done;  // of: versions, modules, functions, port types, main boards, boards
+  size_t steps_done;  // of: versions, modules, functions, port types, main boards, boards, frame
   string loader_console;
   string debug_console;  // what the loader says under the debug switch only
   string loader;
+  int frees = 1;  // the work buffer
   friend std::ostream& operator<<(std::ostream& out, const FailRow& row) { return out << row.name; }
 };
 
@@ -223,10 +294,15 @@ class FailingStep : public Startup, public testing::WithParamInterface<FailRow> 
   // The tables of the steps before the failure are there, the others are empty.
   static void ExpectStepsDone() {
     void (*const expect_table[])() = {ExpectVersions,  ExpectModules,    ExpectFunctions,
-                                      ExpectPortTypes, ExpectMainBoards, ExpectBoards};
-    const bool is_zero[] = {IsZero(gstVersionInformation),     IsZero(gstModuleTypeList),
-                            IsZero(gstSysSupportFuncType),     IsZero(gstSupportedOltPortType),
-                            IsZero(gstSupportedMainBoardType), IsZero(gstSupportedBoardType)};
+                                      ExpectPortTypes, ExpectMainBoards, ExpectBoards,
+                                      ExpectFrame};
+    const bool is_zero[] = {IsZero(gstVersionInformation),
+                            IsZero(gstModuleTypeList),
+                            IsZero(gstSysSupportFuncType),
+                            IsZero(gstSupportedOltPortType),
+                            IsZero(gstSupportedMainBoardType),
+                            IsZero(gstSupportedBoardType),
+                            IsZero(gstFrame)};
     for (size_t step = 0; step < std::size(is_zero); ++step) {
       SCOPED_TRACE(step);
       EXPECT_EQ(is_zero[step], step >= GetParam().steps_done);
@@ -267,7 +343,8 @@ TEST_P(FailingStep, OfTheReader) {
     EXPECT_EQ(ddReadContextFile(), GetParam().code);
     EXPECT_EQ(console_.Text(), Said() + SaidByTheReader());
     ExpectStepsDone();
-    EXPECT_EQ(device.faults.frees, 1);  // the work buffer
+    EXPECT_EQ(device.faults.frees, GetParam().frees);
+    test::ExpectNoLeak(device.faults);
   }
 }
 
@@ -336,6 +413,16 @@ const FailRow kFails[] = {
      "\r\nddReadAllSupportedBoardInformation err! ulSupportedOnuTypeNum = 101, "
      "MAX_OLT_BOARD_TYPE_NUM = 100",
      "", "ddReadAllSupportedBoardInformation"},
+    {"FrameNoSection", test::FileFor(6), -31, 6,
+     "\r\nddReadFrameInformation err! iResult = -1, strSectionFrameNameBuf = "
+     "KT3300-L_FrameInfomation, dd_gstrKeyFrameType = Type",
+     "", "ddReadFrameInformation"},
+    {"FrameInconsistent",
+     test::Replaced(test::FileFor(7), "PowerSlotNum=0", "PowerSlotNum=2\nPowerSlotList=9,3"), -3, 6,
+     "\r\nddGetMainSlotRange err! ulPowerSlotAmount = 2, ulPowerSlotStart = 9, "
+     "ulPowerSlotEnd = 3",
+     "\r\nddReadFrameInformation->ddCheckFrameInformation err! iResult = -3",
+     "ddReadFrameInformation", 2},  // and the boards of the slots
 };
 INSTANTIATE_TEST_SUITE_P(Startup, FailingStep, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());
@@ -357,11 +444,12 @@ TEST_F(Startup, HooksAndPlaceholdersDoNothing) {
   EXPECT_TRUE(IsZero(gstVersionInformation));
 }
 
-TEST_F(Startup, AsksThePlatformNothingButWhichBoardsArePonCards) {
+TEST_F(Startup, AsksThePlatformOnlyForPonCardsAndForTheDeviceType) {
   test::FakePlatform::Get().pon_cards = {3102};
   DeviceFile device;
   EXPECT_EQ(ddInit(), 0);
-  EXPECT_EQ(test::FakePlatform::Get().asked_pon_cards, (std::vector<int16_t>{3102, 3201}));
+  EXPECT_EQ(test::FakePlatform::TakeAsked(),
+            (std::vector<string>{"pon 3102", "pon 3201", "device type"}));
   EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, 3102u);
   EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 1u);
   EXPECT_TRUE(test::FakePlatform::Get().installed.empty());

@@ -56,11 +56,37 @@ Type=3401
 Name=PWDA
 PortNum=0
 SpecialPortNum=0
+[KT3300-L_FrameInfomation]
+Type=15
+Name=KT3300-L
+MaxOnuNum=1024
+MaxUserNum=4096
+RealSlotNum=2
+RealSlotList=1,2
+VirtualSlotNum=0
+HcuSlotNum=0
+FanSlotNum=0
+CioSlotNum=0
+PowerSlotNum=0
+ServeBoardSlotNum=1
+ServeBoardSlotList=1
+MainSlotNum=1
+MainSlotList=2
+UplinkSlotNum=0
+SupportedBoardTypeSlot1=GP01A|PWDA
+SupportedBoardTypeSlot2=MCXA
+SwitchChipLogicPortNum=2
+SwitchChipLogicPort1=1,0,0
+SwitchChipLogicPort2=2,1,0
+Type2SwitchChipLogicPortNum=1
+Type2SwitchChipLogicPort1=1,0,0,29,1
 """
 # What sysctx says of them.
 LOADED = (
     "loaded: 2 versions, 1 modules, 1 system functions\n"
-    "loaded: 1 OLT port types, 1 main boards, 2 service boards\n")
+    "loaded: 1 OLT port types, 1 main boards, 2 service boards\n"
+    "loaded: frame KT3300-L, 2 real slots, 2 logic ports, 1 type-2 logic ports\n")
+NO_FRAME = "loaded: frame (none), 0 real slots, 0 logic ports, 0 type-2 logic ports\n"
 
 
 def sample(name):

@@ -77,7 +77,7 @@ class Information(unittest.TestCase):
     def test_help(self):
         done = card.run("--help")
         self.assertEqual((done.returncode, done.stderr), (0, b""))
-        self.assertTrue(done.stdout.startswith(b"Usage: sysctx [--root DIR] [run COMMAND"))
+        self.assertTrue(done.stdout.startswith(b"Usage: sysctx [--root DIR] ["))
 
     def test_version(self):
         done = card.run("--version")
@@ -104,7 +104,8 @@ class FailedStart(card.CardTest):
         self.assertIn("\nddInit failed with -28: tables behind the failure are empty\n", report)
         self.assertIn("\nconsole: ddReadAllModuleInformation err! ulModuleTypeNum = 201,", report)
         self.assertIn("loaded: 2 versions, 0 modules, 0 system functions\n"
-                      "loaded: 0 OLT port types, 0 main boards, 0 service boards\n", report)
+                      "loaded: 0 OLT port types, 0 main boards, 0 service boards\n" + card.NO_FRAME,
+                      report)
 
     def test_shell_says_so_and_works(self):
         self.break_modules()
@@ -129,7 +130,29 @@ class FailedStart(card.CardTest):
                 self.assertIn("\nddInit failed with -19: tables behind the failure are empty\n",
                               report)
                 self.assertIn("loaded: 2 versions, 1 modules, 1 system functions\n"
-                              "loaded: 1 OLT port types, 0 main boards, 0 service boards\n", report)
+                              "loaded: 1 OLT port types, 0 main boards, 0 service boards\n"
+                              + card.NO_FRAME, report)
+
+    def check_frame(self, code, frame, text):
+        """The frame fails, and so much of it was loaded."""
+        done = card.run("--root", self.root, "run", "show context frame")
+        self.assertEqual(done.returncode, 0)
+        self.assertIn(text, done.stdout)
+        report = done.stderr.decode()
+        self.assertIn(f"\nddInit failed with {code}: tables behind the failure are empty\n", report)
+        self.assertIn("loaded: 1 OLT port types, 1 main boards, 2 service boards\n" + frame, report)
+
+    def test_a_frame_that_fails_stays_as_far_as_it_was_loaded(self):
+        self.define(card.DEFINITIONS.replace("SwitchChipLogicPort2=2,1,0",
+                                             "SwitchChipLogicPort2=3,1,0"))
+        self.check_frame(
+            -3, "loaded: frame KT3300-L, 2 real slots, 0 logic ports, 0 type-2 logic ports\n",
+            b"\r\nulSLotOut =  2, MCXA|\r\n\r\nulSwitchChipLogicPortNum =  0\r\n")
+
+    def test_no_frame_of_the_device_type(self):
+        self.define()
+        self.write("equipment.toml", "device_type = 6\n")
+        self.check_frame(-31, card.NO_FRAME, b"\r\neType = 0, ulNameLen = 0, acName = \r\n")
 
     def test_missing_definition_file(self):
         done = card.run("--root", self.root, "run", "show context version")

@@ -9,6 +9,8 @@ GENERATOR = card.SOURCE / "scripts" / "generate-definition"
 # What is in a file that is made without options.
 COUNTS = "2 versions, 4 modules, 2 system functions"
 OLT_COUNTS = "4 OLT port types, 1 main boards, 4 service boards"
+FRAME = "KT3300-L, 12 real slots, 24 logic ports, 10 type-2 logic ports"
+NO_FRAME = "(none), 0 real slots, 0 logic ports, 0 type-2 logic ports"
 
 
 class Generated(card.CardTest):
@@ -23,16 +25,19 @@ class Generated(card.CardTest):
         self.assertEqual(done.returncode, 0)
         return done.stdout.decode()
 
-    def check_loads(self, counts, olt_counts, *options):
+    def check_counts(self, counts, olt_counts, frame, report):
+        self.assertIn(f"loaded: {counts}\nloaded: {olt_counts}\nloaded: frame {frame}\n", report)
+
+    def check_loads(self, counts, olt_counts, *options, frame=FRAME):
         report = self.load(*options)
-        self.assertIn(f"loaded: {counts}\nloaded: {olt_counts}\n", report)
+        self.check_counts(counts, olt_counts, frame, report)
         self.assertNotIn("console:", report)
         self.assertNotIn("failed", report)
 
-    def check_refused(self, counts, olt_counts, code, *options):
+    def check_refused(self, counts, olt_counts, code, *options, frame=NO_FRAME):
         report = self.load(*options)
-        self.assertIn(f"loaded: {counts}\nloaded: {olt_counts}\n", report)
-        self.assertIn(f"ddInit failed with {code}", report)
+        self.check_counts(counts, olt_counts, frame, report)
+        self.assertIn(f"ddInit failed with {code}:", report)
 
     def test_the_default(self):
         self.check_loads(COUNTS, OLT_COUNTS)
@@ -43,7 +48,8 @@ class Generated(card.CardTest):
     def test_every_count_at_its_limit(self):
         self.check_loads("30 versions, 200 modules, 200 system functions",
                          "30 OLT port types, 1 main boards, 100 service boards",
-                         "--limits", "--main-boards", "1")
+                         "--limits", "--main-boards", "1",
+                         frame="KT3300-L, 100 real slots, 1280 logic ports, 58 type-2 logic ports")
 
     def test_as_many_main_boards_as_possible(self):
         self.check_loads(COUNTS, "4 OLT port types, 100 main boards, 4 service boards",
@@ -94,8 +100,39 @@ class Generated(card.CardTest):
                  "4 OLT port types, 1 main boards, 0 service boards")):
             with self.subTest(option=option):
                 report = self.load(*option)
-                self.assertIn(f"loaded: {COUNTS}\nloaded: {olt_counts}\n", report)
+                self.check_counts(COUNTS, olt_counts, FRAME, report)
                 self.assertNotIn("failed", report)
+
+    def test_small_frames(self):
+        for slots in (1, 2, 11, 12, 13, 14):
+            with self.subTest(slots=slots):
+                self.check_loads(
+                    COUNTS, OLT_COUNTS, "--slots", str(slots), "--frame-ports", "0",
+                    "--type2-ports", "0",
+                    frame=f"KT3300-L, {slots} real slots, 0 logic ports, 0 type-2 logic ports")
+
+    def test_the_frame_of_another_device_type(self):
+        self.write("equipment.toml", "device_type = 6\n")
+        self.check_loads(COUNTS, OLT_COUNTS, "--frame-name", "KT2200-A",
+                         frame=FRAME.replace("KT3300-L", "KT2200-A"))
+        self.check_refused(COUNTS, OLT_COUNTS, -31)
+
+    def test_a_frame_beyond_its_limits_is_refused(self):
+        for option, code, frame in (
+                (("--slots", "0"), -4, "KT3300-L, 0 real slots, 0 logic ports"),
+                (("--slots", "101"), -4, "KT3300-L, 0 real slots, 0 logic ports"),
+                (("--frame-ports", "1281"), -22, "KT3300-L, 12 real slots, 0 logic ports"),
+                (("--type2-ports", "1281"), -22, "KT3300-L, 12 real slots, 24 logic ports")):
+            with self.subTest(option=option):
+                self.check_refused(COUNTS, OLT_COUNTS, code, *option,
+                                   frame=f"{frame}, 0 type-2 logic ports")
+
+    def test_type_2_logic_ports_beyond_the_numbers_are_told(self):
+        report = self.load("--type2-ports", "59")
+        self.check_counts(COUNTS, OLT_COUNTS, FRAME.replace("10 type-2", "59 type-2"), report)
+        self.assertIn("console: read_balance_switch_logicport_to_portinfo err! iResult = -26, "
+                      "ulChipLogciIndex = 58\n", report)
+        self.assertNotIn("failed", report)
 
 
 if __name__ == "__main__":

@@ -5,7 +5,8 @@ import unittest
 import card
 
 GOLDEN = pathlib.Path(__file__).parent / "golden"
-COMMANDS = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all")
+COMMANDS = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all",
+            "frame")
 OMCI_ROW = b" 0. ModuleType =  1, ulNameLen =  5, acName = OMCI         , ulSize = 64\r\n"
 
 
@@ -57,6 +58,36 @@ class Run(card.CardTest):
         self.assertEqual(
             done.stdout, b"NoSpecialUplinkBoard_SwitchChipLogicPort =  1  ---> PhyPort: 5\r\n")
 
+    def test_frame_filters(self):
+        done = self.run_command("show context frame | include SwitchChipLogicPortNum")
+        self.assertEqual(
+            (done.returncode, done.stdout, done.stderr),
+            (0, b"ulSwitchChipLogicPortNum =  2\r\n"
+                b"SwitchChipLogicPortNum =  1  ---> (SlotOut: 1, Port: 0)\r\n"
+                b"SwitchChipLogicPortNum =  2  ---> (SlotOut: 2, Port: 1)\r\n"
+                b"ulType2SwitchChipLogicPortNum =  1\r\n"
+                b"Type2SwitchChipLogicPortNum =  1 --->(SlotOut: 1, Port: 0, ChipPort: 0, "
+                b"PhyPort:29, HigigFlag: 1 )\r\n", b""))
+        done = self.run_command("show context frame | include ulSLotOut")
+        self.assertEqual(
+            done.stdout, b"ulSLotOut =  1, GP01A|PWDA|\r\nulSLotOut =  2, MCXA|\r\n")
+
+    def test_the_frame_is_the_device_types(self):
+        self.write("equipment.toml", "device_type = 17\n")
+        self.define(card.DEFINITIONS.replace("[KT3300-L", "[KT3300-N"))
+        done = self.run_command("show context frame | include ulNameLen")
+        self.assertEqual(
+            (done.returncode, done.stdout, done.stderr),
+            (0, b"eType = 15, ulNameLen = 9, acName = KT3300-L\r\n", b""))
+
+    def test_an_unknown_device_type_is_told(self):
+        self.write("equipment.toml", "device_type = 99\n")
+        done = self.run_command("show context frame | include eType")
+        self.assertEqual(
+            (done.returncode, done.stdout, done.stderr),
+            (0, b"eType = 15, ulNameLen = 9, acName = KT3300-L\r\n",
+             b"console: ddGetFrameName err!, iFrameType = 99,set default KT3300_L_FRAME\n"))
+
     def test_count_filter(self):
         self.assertEqual(self.run_command("show context version | count").stdout, b"5\r\n")
 
@@ -68,7 +99,8 @@ class Run(card.CardTest):
                      b"sys_support_func     sys support func info.",
                      b"main_board           main board info.",
                      b"olt_port             olt port info.",
-                     b"board_all            all board info."):
+                     b"board_all            all board info.",
+                     b"frame                frame info."):
             self.assertIn(b"  " + line + b"\n", done.stdout)
 
     def test_refused_commands(self):
@@ -105,7 +137,9 @@ class Run(card.CardTest):
             b"console: ddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err!"
             b" strBoardTypeSection = Board_GP01A\n"
             b"console: ddReadAllSupportedBoardInformation->ddReadOneSupportedBoardInformation err!"
-            b" iResult = -1, section = Board_GP01A\n")
+            b" iResult = -1, section = Board_GP01A\n"
+            b"console: ddReadSlotSupportBoard err! iResult = -32, _tmp = GP01A,"
+            b" ulSlotListIndex = 0, ulSlotOut = 1, ulSLotEnd = 2\n")
 
     def test_full_device_is_told(self):
         with open("/dev/full", "wb") as full:
@@ -141,8 +175,8 @@ class Script(card.CardTest):
         self.assertEqual(
             lines[3], f"  /mnt/work/device_definition.ini: {len(card.DEFINITIONS)} bytes")
         self.assertEqual(lines[4], "  /mnt/work/optmodule_definition.ini: missing")
-        self.assertEqual(lines[5] + "\n" + lines[6] + "\n", card.LOADED)
-        self.assertEqual(lines[7], f"commands: {len(COMMANDS)} installed")
+        self.assertEqual("\n".join(lines[5:8]) + "\n", card.LOADED)
+        self.assertEqual(lines[8], f"commands: {len(COMMANDS)} installed")
         self.assertRegex("\n".join(lines), r"module 1: SysContext, version \"\w{3} [ \d]\d \d{4} ")
 
     def test_status_is_the_last_commands(self):

@@ -10,6 +10,7 @@
 #include "sys_context/cfgfile.h"
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
@@ -92,9 +93,90 @@ static const struct {
     FUNCTION(ddGetCardNameByType),
     FUNCTION(ddGetCardTypeByName),
     FUNCTION(ddGetCardTypeByNocaseName),
+    FUNCTION(ddCheckFrameInformation),
+    FUNCTION(ddEmptyFrameInformation),
+    FUNCTION(ddGetFrameName),
+    FUNCTION(ddInquireFrameName),
+    FUNCTION(ddReadFrameInformation),
+    FUNCTION(ddReadOneSlotClass),
+    FUNCTION(ddReadSlotSupportBoard),
+    FUNCTION(ddReadSwitchChipLogicPortToSlotPort),
+    FUNCTION(read_balance_switch_logicport_to_portinfo),
+    FUNCTION(ddCanBoardPlugInSlotByType),
+    FUNCTION(ddGetAllSlotList),
+    FUNCTION(ddGetBoardSlotList),
+    FUNCTION(ddGetCioSlotList),
+    FUNCTION(ddGetCioSlotRange),
+    FUNCTION(ddGetFanSlotList),
+    FUNCTION(ddGetFanSlotRange),
+    FUNCTION(ddGetHcuSlotList),
+    FUNCTION(ddGetHcuSlotRange),
+    FUNCTION(ddGetMainBoardSlotList),
+    FUNCTION(ddGetMainSlotRange),
+    FUNCTION(ddGetMaxMainSlot),
+    FUNCTION(ddGetMaxOnuNum),
+    FUNCTION(ddGetMaxSlotNum),
+    FUNCTION(ddGetMaxUserNum),
+    FUNCTION(ddGetMinMainSlot),
+    FUNCTION(ddGetPowerSlotList),
+    FUNCTION(ddGetPowerSlotRange),
+    FUNCTION(ddGetRealSlotList),
+    FUNCTION(ddGetRealSlotRange),
+    FUNCTION(ddGetServeBoardSlotAmount),
+    FUNCTION(ddGetServeBoardSlotRange),
+    FUNCTION(ddGetServeSlotList),
+    FUNCTION(ddGetUplinkSlotList),
+    FUNCTION(ddGetUplinkSlotRange),
+    FUNCTION(ddGetVirtualSlotList),
+    FUNCTION(ddGetVirtualSlotRange),
+    FUNCTION(ddIsCioBoardSlot),
+    FUNCTION(ddIsFanBoardSlot),
+    FUNCTION(ddIsHcuBoardSlot),
+    FUNCTION(ddIsMainBoardSlot),
+    FUNCTION(ddIsPowerBoardSlot),
+    FUNCTION(ddIsRealSlot),
+    FUNCTION(ddIsServeBoardSlot),
+    FUNCTION(ddIsSlotInSlotList),
+    FUNCTION(ddIsUplinkBoardSlot),
+    FUNCTION(ddIsValidSlot),
+    FUNCTION(ddIsVectorBoardSlot),
+    FUNCTION(ddIsVirtualSlot),
+    FUNCTION(ddGetAllUserPortSwitchChipLogicPortList),
+    FUNCTION(ddGetEthLogicportRange),
+    FUNCTION(ddGetNonzeroPortSwitchChipLogicPortList),
+    FUNCTION(ddGetObjectInfoFromSwitchChipLogicPort),
+    FUNCTION(ddGetSlotPortFromSwitchChipLogicPort),
+    FUNCTION(ddGetSwitchChipLogicPortAmount),
+    FUNCTION(ddGetSwitchChipLogicPortFromSlotPort),
+    FUNCTION(ddGetUplinkLogicPortList),
+    FUNCTION(ddGetUplinkLogicPortListOnly),
+    FUNCTION(ddGetUplinkPortLogicPortListFromSlot),
+    FUNCTION(get_balance_chipno_phyport_from_switch_logicport),
+    FUNCTION(get_balance_slotport_from_switch_logicport),
+    FUNCTION(get_balance_switch_logicport_amount),
+    FUNCTION(get_balance_switch_logicport_from_chipno_phyport),
+    FUNCTION(get_balance_switch_logicport_from_phyport),
+    FUNCTION(get_balance_switch_logicport_from_slotport),
+    FUNCTION(get_balance_switch_logicport_from_slotport_chipno),
+    FUNCTION(get_balance_switch_logicport_index_from_portno),
+    FUNCTION(get_balance_switch_logicport_portno_from_index),
+    FUNCTION(get_balance_switch_logicportlist_from_slot),
+    FUNCTION(get_balance_switch_logicportlist_from_slotport),
+    FUNCTION(get_balance_user_port_switch_logicportlist),
+    FUNCTION(get_higicport_balance_switch_logicportlist),
+    FUNCTION(get_switch_chip_logicport_index_from_portno),
+    FUNCTION(get_switch_chip_logicport_portno_from_index),
+    FUNCTION(get_switch_logicportlist_from_slot),
+    FUNCTION(get_switch_logicportlist_from_slotport),
+    FUNCTION(is_higigport_balance_switch_logicport),
+    FUNCTION(ddRunGetMainSlotType),
+    FUNCTION(ddRunGetSwitchChipLogicPortFromPhyPort),
+    FUNCTION(ddRunGetSwitchChipPhyPortFromLogicPort),
+    FUNCTION(get_current_frameno),
     FUNCTION(ddCmdInit),
     FUNCTION(ddShowAllBoardInfo_Func),
     FUNCTION(ddShowAllModuleInfo_Func),
+    FUNCTION(ddShowFrameInfo_Func),
     FUNCTION(ddShowMainBoardInfo_Func),
     FUNCTION(ddShowOltPortInfo_Func),
     FUNCTION(ddShowSysSupportFuncInfo_Func),
@@ -103,7 +185,9 @@ static const struct {
     FUNCTION(ddPrintAllSupportedBoardInfomation),
     FUNCTION(ddPrintAllSupportedMainBoardInformation),
     FUNCTION(ddPrintAllSupportedOltPortInfomation),
+    FUNCTION(ddPrintFrameInfomation),
     FUNCTION(ddPrintOneSupportedBoardInfomation),
+    FUNCTION(ddPrintSlotClassInformation),
     FUNCTION(ddPrintSysSupportFuncInformation),
     FUNCTION(ddPrintVersionInformation),
 };
@@ -129,8 +213,13 @@ static const struct {
     VARIABLE(gstSupportedOltPortType),
     VARIABLE(gstSupportedMainBoardType),
     VARIABLE(gstSupportedBoardType),
+    VARIABLE(dd_gstrKeyFrameName),
+    VARIABLE(dd_gstrKeyFrameType),
+    VARIABLE(dd_gstrSectionFrameInfomation),
+    VARIABLE(gstFrame),
     VARIABLE(ddShowAllBoardInfo_CMD),
     VARIABLE(ddShowAllModuleInfo_CMD),
+    VARIABLE(ddShowFrameInfo_CMD),
     VARIABLE(ddShowMainBoardInfo_CMD),
     VARIABLE(ddShowOltPortInfo_CMD),
     VARIABLE(ddShowSysSupportFuncInfo_CMD),
@@ -214,6 +303,10 @@ static void variables_have_their_first_values(void) {
   CHECK(gstSupportedBoardType.pBoardTypeArray == NULL);
   CHECK(gstSupportedBoardType.ulSupportedBoardMaxPonType == 0);
   CHECK(gstSupportedBoardType.ulSupportedBoardMaxPonNum == 0);
+  CHECK(gstFrame.ulNameLen == 0 && gstFrame.pstSlotArray == NULL);
+  CHECK(strcmp(dd_gstrSectionFrameInfomation, "FrameInfomation") == 0);
+  CHECK(strcmp(dd_gstrKeyFrameName, "Name") == 0);
+  CHECK(strcmp(dd_gstrKeyFrameType, "Type") == 0);
 }
 
 static void a_missing_file_is_reported(void) {
@@ -245,8 +338,18 @@ static void the_library_starts(void) {
       "GP02A_SwitchChipLogicPort1 = 7\nGP02A_SwitchChipLogicPort2 = 8\n"
       "[SupportedBoardType]\nSupportedBoardTypeNum = 1\nSupportedBoardType1 = Board_GP02A\n"
       "[Board_GP02A]\nType = 3102\nName = GP02A\nPortNum = 2\n"
-      "NameKeyPort1 = GPON\nNameKeyPort2 = GPON\nSpecialPortNum = 0\n");
+      "NameKeyPort1 = GPON\nNameKeyPort2 = GPON\nSpecialPortNum = 0\n"
+      "[KT3300-N_FrameInfomation]\nType = 17\nName = KT3300-N\nMaxOnuNum = 4096\nMaxUserNum = 9\n"
+      "RealSlotNum = 2\nRealSlotList = 1,2\nVirtualSlotNum = 0\nHcuSlotNum = 0\nFanSlotNum = 0\n"
+      "CioSlotNum = 0\nPowerSlotNum = 0\nServeBoardSlotNum = 0\nMainSlotNum = 1\nMainSlotList = 1\n"
+      "UplinkSlotNum = 1\nUplinkSlotList = 2\n"
+      "SupportedBoardTypeSlot1 = MCXA\nSupportedBoardTypeSlot2 = GP02A\n"
+      "SwitchChipLogicPortNum = 2\nSwitchChipLogicPort1 = 2,0,0\nSwitchChipLogicPort2 = 2,4,0\n"
+      "Type2SwitchChipLogicPortNum = 2\nType2SwitchChipLogicPort1 = 2,4,0,31,0\n"
+      "Type2SwitchChipLogicPort2 = 2,4,1,31,1\n");
   platform.pon_card = 3102;
+  platform.uplink_card = 3102;
+  platform.device_type = 17;
   catch_console();
   CHECK(ddInit() == 0);
   CHECK(ddCmdInit(0, 0, 0) == 0);
@@ -257,6 +360,7 @@ static void the_library_starts(void) {
   CHECK(gstSupportedOltPortType.ulSupportedOltPortTypeNum == 1);
   CHECK(gstSupportedMainBoardType.ulSupportedBoardTypeNum == 1);
   CHECK(gstSupportedBoardType.ulSupportedBoardTypeNum == 1);
+  CHECK(gstFrame.ulSwitchChipLogicPortNum == 2);
 }
 
 static void queries_are_answered(void) {
@@ -286,6 +390,33 @@ static void olt_queries_are_answered(void) {
   CHECK(ddGetCardTypeByNocaseName("gp02a", &number) == 0 && number == 3102);
 }
 
+static void frame_queries_are_answered(void) {
+  char name[MAX_FRAME_NAME_LEN];
+  uint32_t numbers[2] = {0, 0};
+  uint32_t number = 0;
+  CHECK(ddInquireFrameName(name) == 0 && strcmp(name, "KT3300-N") == 0);
+  CHECK(ddGetFrameName(name) == 0 && strcmp(name, "KT3300-N") == 0);
+  CHECK(ddGetMaxOnuNum(&number) == 0 && number == 4096);
+  CHECK(ddGetRealSlotList(numbers, 2, &number) == 0 && number == 2 && numbers[1] == 2);
+  CHECK(ddGetMaxMainSlot() == 1);
+  CHECK(ddIsUplinkBoardSlot(2, &number) == 0 && number == 1);
+  CHECK(ddCanBoardPlugInSlotByType(2, 3102, &number) == 0 && number == 1);
+  CHECK(get_current_frameno() == 1);
+}
+
+/* The platform has its say in these: every slot has an uplink card. */
+static void logic_ports_are_answered(void) {
+  uint32_t numbers[2] = {0, 0};
+  uint32_t number = 0;
+  CHECK(ddGetSwitchChipLogicPortFromSlotPort(2, 4, &number) == 0 && number == 2);
+  CHECK(get_balance_switch_logicport_from_slotport(2, 4, &number) == 0 && number == 2);
+  CHECK(ddGetUplinkLogicPortList(numbers, 2, &number) == 0 && number == 1 && numbers[0] == 2);
+  CHECK(get_higicport_balance_switch_logicportlist(numbers, 2, &number) == 0 && number == 1);
+  CHECK(ddRunGetMainSlotType(&number) == 0 && number == 101);
+  CHECK(ddRunGetSwitchChipPhyPortFromLogicPort(2, &number) == 0 && number == 8);
+  CHECK(ddRunGetSwitchChipLogicPortFromPhyPort(9, &number) == -22);
+}
+
 static void a_board_can_be_freed_by_the_host(void) {
   BoardInformation* board = NULL;
   CHECK(ddReadOneSupportedBoardInformation("/mnt/work/device_definition.ini", "Board_GP02A", 0,
@@ -297,7 +428,8 @@ static void a_board_can_be_freed_by_the_host(void) {
 static void commands_are_installed(void) {
   int terminal = 0;
   CHECK(platform.registered == 1 && platform.versions == 1);
-  CHECK(platform.installed == 6);
+  CHECK(platform.installed == 7);
+  CHECK(platform.records[6] == &ddShowFrameInfo_CMD);
   CHECK(platform.records[0] == &ddShowVersionInfo_CMD);
   CommandRecord* const record = platform.records[2];
   CHECK(strcmp(record->string, "show context sys_support_func") == 0);
@@ -325,6 +457,16 @@ static void boards_are_shown(void) {
                "\r\nSpecialPort = 0\r\n") == 0);
 }
 
+static void slots_are_shown(void) {
+  int terminal = 0;
+  platform.terminal[0] = '\0';
+  CHECK(ddPrintSlotClassInformation(&terminal, &gstFrame.stRealSlot) == 0);
+  CHECK(platform.terminal_used == &terminal);
+  CHECK(strcmp(platform.terminal,
+               "\r\nulSlotAmount =  2, ulSlotStart  =  1, ulSlotEnd  =  2"
+               "\r\nucSlotArray = 1, 2, \r\n") == 0);
+}
+
 static void hooks_do_nothing(void) {
   CHECK(context_module_init() == 0);
   CHECK(context_cmd_module_init() == 0);
@@ -342,9 +484,12 @@ int main(int argc, char** argv) {
   the_library_starts();
   queries_are_answered();
   olt_queries_are_answered();
+  frame_queries_are_answered();
+  logic_ports_are_answered();
   a_board_can_be_freed_by_the_host();
   commands_are_installed();
   boards_are_shown();
+  slots_are_shown();
   hooks_do_nothing();
   return failures() == 0 ? 0 : 1;
 }

@@ -122,3 +122,34 @@ int32_t bep_taskDelayEx(int32_t ticks) {
 int32_t caCheckCardTypeIsPonCard(int16_t cardType) {
   return platform.pon_card != 0 && cardType == platform.pon_card ? 0 : 1;
 }
+
+int32_t caCheckCardTypeIsUplinkCard(int16_t cardType) {
+  return platform.uplink_card != 0 && cardType == platform.uplink_card ? 0 : 1;
+}
+
+int32_t caCheckCardTypeIsEthCard(int16_t cardType) {
+  (void)cardType;
+  return 1;
+}
+
+int32_t caCheckCardTypeIsServiceCard(int16_t cardType) {
+  (void)cardType;
+  return 1;
+}
+
+int32_t get_system_device_type(void) {
+  return platform.device_type;
+}
+
+int32_t get_config_card_type(uint32_t slot) {
+  (void)slot;
+  return platform.uplink_card;
+}
+
+int32_t get_core_card_self_cardnumber(void) {
+  return 10;
+}
+
+int32_t get_core_card_detect_type(void) {
+  return 101;
+}

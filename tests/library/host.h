@@ -29,7 +29,9 @@ struct Platform {
   int versions;
   void* terminal_used;
   char terminal[8192];
-  int16_t pon_card; /* the card type that is a PON card; 0: none is */
+  int16_t pon_card;    /* the card type that is a PON card; 0: none is */
+  int16_t uplink_card; /* the one that is an uplink card, and configured for every slot */
+  int32_t device_type;
 };
 extern struct Platform platform;
 

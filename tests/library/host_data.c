@@ -9,6 +9,7 @@
 
 #include "host.h"
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 
 #if OWN_DATA
@@ -70,6 +71,25 @@ static void written_olt_tables_are_seen(void) {
   CHECK(ddGetCardTypeByName("PWDA", &number) == 0 && number == 3401);
 }
 
+static void a_written_frame_is_seen(void) {
+  char name[MAX_FRAME_NAME_LEN];
+  uint32_t number = 0;
+  uint32_t port = 0;
+  strcpy(gstFrame.acName, "HostFrame");
+  gstFrame.ulNameLen = 10;
+  gstFrame.stFanSlot.ulSlotAmount = 1;
+  gstFrame.stFanSlot.ucSlotArray[0] = 7;
+  gstFrame.ulSwitchChipLogicPortNum = 1280;
+  gstFrame.astSwitchChipLogicPort[1279].ucSlotOut = 5;
+  gstFrame.astSwitchChipLogicPort[1279].ucSlotPort = 6;
+  gstFrame.astType2SwitchChipLogicPort[57].ucHigigFlag = 1;
+  CHECK(ddGetFrameName(name) == 0 && strcmp(name, "HostFrame") == 0);
+  CHECK(ddIsFanBoardSlot(7, &number) == 0 && number == 1);
+  CHECK(ddGetSlotPortFromSwitchChipLogicPort(1280, &number, &port) == 0);
+  CHECK(number == 5 && port == 6);
+  CHECK(is_higigport_balance_switch_logicport(201, &number) == 0 && number == 1);
+}
+
 static void loaded_tables_are_seen(void) {
   set_definition_file(
       "[Version]\nSupportedSoftwareVer=HostV2\n"
@@ -81,7 +101,15 @@ static void loaded_tables_are_seen(void) {
       "[M]\nType=102\nName=MCXB\nSwitchChipLogicPortNum=0\n"
       "SpecialChipLogicPortMapPhyPortCardNum=0\n"
       "[SupportedBoardType]\nSupportedBoardTypeNum=1\nSupportedBoardType1=B\n"
-      "[B]\nType=3411\nName=FANA\nPortNum=0\nSpecialPortNum=0\n");
+      "[B]\nType=3411\nName=FANA\nPortNum=0\nSpecialPortNum=0\n"
+      /* The keys of its name and type are the host's. */
+      "[KT3300-L_FrameInfomation]\nKind=15\nLabel=KT\nMaxOnuNum=1\nMaxUserNum=2\n"
+      "RealSlotNum=1\nRealSlotList=3\nVirtualSlotNum=0\nHcuSlotNum=0\nFanSlotNum=0\nCioSlotNum=0\n"
+      "PowerSlotNum=0\nServeBoardSlotNum=0\nMainSlotNum=0\nUplinkSlotNum=0\n"
+      "SupportedBoardTypeSlot3=FANA\nSwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n");
+  platform.device_type = 15;
+  dd_gstrKeyFrameType = "Kind";
+  dd_gstrKeyFrameName = "Label";
   CHECK(ddInit() == 0);
   CHECK(gstVersionInformation.ulSupportedSoftVerNum == 1);
   CHECK(gstModuleTypeList.ulModuleTypeNum == 1);
@@ -90,6 +118,8 @@ static void loaded_tables_are_seen(void) {
   CHECK(gstSupportedOltPortType.pOltPortTypeArray[0]->ulPortType == 31);
   CHECK(gstSupportedMainBoardType.pBoardTypeArray[0]->ulType == 102);
   CHECK(gstSupportedBoardType.pBoardTypeArray[0]->ulType == 3411);
+  CHECK(gstFrame.eType == 15 && strcmp(gstFrame.acName, "KT") == 0);
+  CHECK(gstFrame.pstSlotArray[3].aulBoardType[0] == 3411);
 }
 
 int main(void) {
@@ -109,6 +139,7 @@ int main(void) {
   the_software_version_is_seen();
   written_tables_are_seen();
   written_olt_tables_are_seen();
+  a_written_frame_is_seen();
   loaded_tables_are_seen();
   return failures() == 0 ? 0 : 1;
 }

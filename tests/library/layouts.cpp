@@ -6,6 +6,7 @@
 #include "sys_context/cfgfile.h"
 #include "sys_context/cli.h"
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/platform.h"
 
@@ -59,6 +60,29 @@ static_assert(offsetof(MainBoardInformation, ulChipLogicPortToPhyPortTypeNum) ==
 static_assert(offsetof(MainBoardInformation, astPortMap) == 80);
 static_assert(sizeof(MainBoardInformation::astPortMap) == 103680);
 
+static_assert(sizeof(SlotClassInformation) == 412);
+static_assert(offsetof(SlotClassInformation, ulSlotAmount) == 0);
+static_assert(offsetof(SlotClassInformation, ulSlotStart) == 4);
+static_assert(offsetof(SlotClassInformation, ulSlotEnd) == 8);
+static_assert(offsetof(SlotClassInformation, ucSlotArray) == 12);
+static_assert(sizeof(SlotClassInformation::ucSlotArray) == 400);
+
+static_assert(sizeof(SlotSupportBoard) == 400);
+static_assert(offsetof(SlotSupportBoard, aulBoardType) == 0);
+static_assert(sizeof(SlotSupportBoard::aulBoardType) == 400);
+
+static_assert(sizeof(SwitchChipLogicPortToSlotPort) == 3);
+static_assert(offsetof(SwitchChipLogicPortToSlotPort, ucSlotOut) == 0);
+static_assert(offsetof(SwitchChipLogicPortToSlotPort, ucSlotPort) == 1);
+static_assert(offsetof(SwitchChipLogicPortToSlotPort, ucSlotFlag) == 2);
+
+static_assert(sizeof(BalanceSwitchLogicPortInfo) == 8);
+static_assert(offsetof(BalanceSwitchLogicPortInfo, ucSlotOut) == 0);
+static_assert(offsetof(BalanceSwitchLogicPortInfo, ucSlotPort) == 1);
+static_assert(offsetof(BalanceSwitchLogicPortInfo, usChipPort) == 2);
+static_assert(offsetof(BalanceSwitchLogicPortInfo, usPhyPort) == 4);
+static_assert(offsetof(BalanceSwitchLogicPortInfo, ucHigigFlag) == 6);
+
 constexpr bool kOnCard = sizeof(void*) == 4;
 
 static_assert(!kOnCard || sizeof(SupportedOltPortType) == 8);
@@ -87,6 +111,30 @@ static_assert(!kOnCard || offsetof(SupportedBoardType, pBoardTypeArray) == 4);
 static_assert(!kOnCard || offsetof(SupportedBoardType, ulSupportedBoardMaxPonType) == 8);
 static_assert(!kOnCard || offsetof(SupportedBoardType, ulSupportedBoardMaxPonNum) == 12);
 
+static_assert(!kOnCard || sizeof(FrameInformation) == 17876);
+static_assert(!kOnCard || offsetof(FrameInformation, eType) == 0);
+static_assert(!kOnCard || offsetof(FrameInformation, ulNameLen) == 4);
+static_assert(!kOnCard || offsetof(FrameInformation, acName) == 8);
+static_assert(sizeof(FrameInformation::acName) == 60);
+static_assert(!kOnCard || offsetof(FrameInformation, ulMaxOnuNum) == 68);
+static_assert(!kOnCard || offsetof(FrameInformation, ulMaxUserNum) == 72);
+static_assert(!kOnCard || offsetof(FrameInformation, stRealSlot) == 76);
+static_assert(!kOnCard || offsetof(FrameInformation, stVirtualSlot) == 488);
+static_assert(!kOnCard || offsetof(FrameInformation, stHcuSlot) == 900);
+static_assert(!kOnCard || offsetof(FrameInformation, stFanSlot) == 1312);
+static_assert(!kOnCard || offsetof(FrameInformation, stPowerSlot) == 1724);
+static_assert(!kOnCard || offsetof(FrameInformation, stCioSlot) == 2136);
+static_assert(!kOnCard || offsetof(FrameInformation, stServeBoardSlot) == 2548);
+static_assert(!kOnCard || offsetof(FrameInformation, stMainSlot) == 2960);
+static_assert(!kOnCard || offsetof(FrameInformation, stUplinkSlot) == 3372);
+static_assert(!kOnCard || offsetof(FrameInformation, pstSlotArray) == 3784);
+static_assert(!kOnCard || offsetof(FrameInformation, ulSwitchChipLogicPortNum) == 3788);
+static_assert(!kOnCard || offsetof(FrameInformation, astSwitchChipLogicPort) == 3792);
+static_assert(sizeof(FrameInformation::astSwitchChipLogicPort) == 3840);
+static_assert(!kOnCard || offsetof(FrameInformation, ulType2SwitchChipLogicPortNum) == 7632);
+static_assert(!kOnCard || offsetof(FrameInformation, astType2SwitchChipLogicPort) == 7636);
+static_assert(sizeof(FrameInformation::astType2SwitchChipLogicPort) == 10240);
+
 static_assert(!kOnCard || sizeof(ModuleTypeList) == 8);
 static_assert(!kOnCard || offsetof(ModuleTypeList, ulModuleTypeNum) == 0);
 static_assert(!kOnCard || offsetof(ModuleTypeList, pModuleTypeArray) == 4);
@@ -112,3 +160,9 @@ static_assert(MAX_SWITCH_CHIP_LOGIC_PORT_TYPE_NUM == 20);
 static_assert(MAX_BOARD_NAME_LEN == 60);
 static_assert(MAX_OLT_PORT_NUM_PER_BOARD == 128);
 static_assert(MAX_OLT_SPECIAL_PORT_NUM_PER_BOARD == 128);
+static_assert(MAX_FRAME_NAME_LEN == 60);
+static_assert(MAX_ONU_NUM_PER_FRAME == 100000);
+static_assert(MAX_USER_NUM_PER_FRAME == 2400000);
+static_assert(MAX_SLOT_END == 100);
+static_assert(MAX_BOARD_TYPE_NUM_PER_SLOT == 100);
+static_assert(MAX_TYPEB_SWITCH_CHIP_LOGIC_PORT_NUM == 128);

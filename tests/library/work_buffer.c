@@ -110,7 +110,12 @@ static void around_a_good_parse(void) {
       "[M]\nType=101\nName=MCXA\nSwitchChipLogicPortNum=0\n"
       "SpecialChipLogicPortMapPhyPortCardNum=0\n"
       "[SupportedBoardType]\nSupportedBoardTypeNum=1\nSupportedBoardType1=B\n"
-      "[B]\nType=3401\nName=PWDA\nPortNum=0\nSpecialPortNum=0\n");
+      "[B]\nType=3401\nName=PWDA\nPortNum=0\nSpecialPortNum=0\n"
+      "[KT3300-L_FrameInfomation]\nType=15\nName=F\nMaxOnuNum=1\nMaxUserNum=2\n"
+      "RealSlotNum=1\nRealSlotList=1\nVirtualSlotNum=0\nHcuSlotNum=0\nFanSlotNum=0\nCioSlotNum=0\n"
+      "PowerSlotNum=0\nServeBoardSlotNum=0\nMainSlotNum=0\nUplinkSlotNum=0\n"
+      "SupportedBoardTypeSlot1=PWDA\nSwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n");
+  platform.device_type = 15;
   const int before = files_opened();
   catch_console();
   const int32_t code = ddReadContextFile();

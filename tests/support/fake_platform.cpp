@@ -15,6 +15,22 @@ void FakePlatform::Reset() {
   Get() = FakePlatform();
 }
 
+std::vector<std::string> FakePlatform::TakeAsked() {
+  return std::exchange(Get().asked, {});
+}
+
+namespace {
+
+void NoteQuestion(const std::string& question) {
+  FakePlatform::Get().asked.push_back(question);
+}
+
+int32_t AnswerKind(const char* kind, const std::set<int16_t>& cards, int16_t card_type) {
+  NoteQuestion(std::string(kind) + " " + std::to_string(card_type));
+  return cards.count(card_type) != 0 ? 0 : FakePlatform::Get().not_of_that_kind;
+}
+
+}  // namespace
 }  // namespace test
 
 using test::FakePlatform;
@@ -57,7 +73,39 @@ int32_t bep_taskDelayEx(int32_t ticks) {
 }
 
 int32_t caCheckCardTypeIsPonCard(int16_t cardType) {
-  FakePlatform& platform = FakePlatform::Get();
-  platform.asked_pon_cards.push_back(cardType);
-  return platform.pon_cards.count(cardType) != 0 ? 0 : platform.not_a_pon_card;
+  return test::AnswerKind("pon", FakePlatform::Get().pon_cards, cardType);
+}
+
+int32_t caCheckCardTypeIsEthCard(int16_t cardType) {
+  return test::AnswerKind("ethernet", FakePlatform::Get().ethernet_cards, cardType);
+}
+
+int32_t caCheckCardTypeIsServiceCard(int16_t cardType) {
+  return test::AnswerKind("service", FakePlatform::Get().service_cards, cardType);
+}
+
+int32_t caCheckCardTypeIsUplinkCard(int16_t cardType) {
+  return test::AnswerKind("uplink", FakePlatform::Get().uplink_cards, cardType);
+}
+
+int32_t get_system_device_type() {
+  test::NoteQuestion("device type");
+  return FakePlatform::Get().device_type;
+}
+
+int32_t get_config_card_type(uint32_t slot) {
+  test::NoteQuestion("slot " + std::to_string(slot));
+  const FakePlatform& platform = FakePlatform::Get();
+  const auto card = platform.configured_cards.find(slot);
+  return card == platform.configured_cards.end() ? platform.no_card : card->second;
+}
+
+int32_t get_core_card_self_cardnumber() {
+  test::NoteQuestion("own slot");
+  return FakePlatform::Get().own_slot;
+}
+
+int32_t get_core_card_detect_type() {
+  test::NoteQuestion("main card");
+  return FakePlatform::Get().main_card;
 }

@@ -2,6 +2,7 @@
 // answers as the test says. Every test starts with a fresh one.
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -16,6 +17,8 @@ struct FakePlatform {
   static FakePlatform& Get();
   // Forgets everything recorded and scripted.
   static void Reset();
+  // What was asked since the last call; see `asked`.
+  static std::vector<std::string> TakeAsked();
 
   // Command shell: what was installed, by node, and what terminals show.
   struct Installed {
@@ -44,10 +47,23 @@ struct FakePlatform {
   std::vector<int32_t> delays;
   std::vector<size_t> shown_before_delays;
 
-  // Card kinds: which types are PON cards, and the types that were asked about.
+  // Card kinds: the types that are of each, and what the others are answered.
   std::set<int16_t> pon_cards;
-  int32_t not_a_pon_card = 1;  // what the others are answered
-  std::vector<int16_t> asked_pon_cards;
+  std::set<int16_t> ethernet_cards;
+  std::set<int16_t> service_cards;
+  std::set<int16_t> uplink_cards;
+  int32_t not_of_that_kind = 1;
+
+  // The equipment: its type, its main card and the slot of that, the cards that are
+  // configured by slot, and what is answered for other slots. `asked` names every
+  // call of these and of the card kinds in order, with its argument: "slot 7",
+  // "pon 3102", "ethernet 3201", "device type", "own slot", "main card".
+  int32_t device_type = 15;
+  int32_t main_card = 0;
+  int32_t own_slot = 9;
+  std::map<uint32_t, int32_t> configured_cards;
+  int32_t no_card = -1;
+  std::vector<std::string> asked;
 };
 
 }  // namespace test

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "sys_context/context.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 
 namespace test {
@@ -43,6 +44,7 @@ Blocks ReachableBlocks() {
       AddRecords(blocks, board->ulTotalSpecialPortNum, board->pSpecialPortArray);
     }
   }
+  Add(blocks, gstFrame.pstSlotArray);
   return blocks;
 }
 

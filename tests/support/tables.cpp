@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "sys_context/cfgfile.h"
+#include "sys_context/frame.h"
 #include "sys_context/olt.h"
 
 namespace test {
@@ -40,10 +41,14 @@ void ResetTables() {
   ReleaseRecords(gstSupportedBoardType.ulSupportedBoardTypeNum,
                  gstSupportedBoardType.pBoardTypeArray, ReleaseBoard);
   gstSupportedBoardType = {};
+  ddEmptyFrameInformation();
   gstVersionInformation = {};
   gstSysSupportFuncType = {};
   gstrddSoftwareVer = "KT2200V4.0";
   strDeviceDefFilePath = "/mem/dd.ini";
+  dd_gstrSectionFrameInfomation = "FrameInfomation";
+  dd_gstrKeyFrameName = "Name";
+  dd_gstrKeyFrameType = "Type";
   ddDebugPrint = 0;
   dosFsMsgLevel = 0;
   CFG_ssl = '[';

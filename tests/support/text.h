@@ -17,6 +17,16 @@ inline std::string Hex(const void* pointer) {
   return text;
 }
 
+// An unsigned number as "%d" shows it.
+inline std::string Signed(uint32_t number) {
+  return std::to_string(static_cast<int32_t>(number));
+}
+
+// A pointer as "%d" shows it.
+inline std::string Decimal(const void* pointer) {
+  return Signed(static_cast<uint32_t>(reinterpret_cast<uintptr_t>(pointer)));
+}
+
 // "<prefix>1=<first>\n<prefix>2=<second>\n..."
 inline std::string Numbered(const std::string& prefix, const std::vector<std::string>& values) {
   std::string text;

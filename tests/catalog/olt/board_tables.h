@@ -9,14 +9,13 @@
 #include <type_traits>
 #include <vector>
 
+#include "support/asking.h"
 #include "support/records.h"
-#include "support/tables.h"
 #include "sys_context/olt.h"
 
 namespace test {
 
 constexpr std::nullopt_t kNull = std::nullopt;  // an empty place of an array
-constexpr uint32_t kUntouched = 7777;           // in the outputs, before a query is asked
 
 // A table: what its places hold, and what is wrong with it.
 template <typename Record>
@@ -58,13 +57,13 @@ inline Ports PortsOfTypes1To(uint32_t count) {
   return ports;
 }
 
-class BoardTablesTest : public LibraryTest {
+class BoardTablesTest : public AskingTest {
  protected:
   void TearDown() override {
     for (; !undo_.empty(); undo_.pop_back()) {
       undo_.back()();
     }
-    LibraryTest::TearDown();
+    AskingTest::TearDown();
   }
 
   void PutMainBoards(const PlacedBoards& boards) {
@@ -92,22 +91,6 @@ class BoardTablesTest : public LibraryTest {
     undo_.push_back([&word, before = word] { word = before; });
     word = value;
   }
-
-  // Asks with ddDebugPrint off and on: then, and only then, `text` is printed.
-  // Words of a failing test come to the console too, so it asks no further.
-  template <typename Ask>
-  void AskTwice(const std::string& text, Ask ask) {
-    for (const int32_t debug : {0, 1}) {
-      if (HasFailure()) {
-        return;
-      }
-      ddDebugPrint = debug;
-      ask();
-      EXPECT_EQ(console_.Text(), debug != 0 ? text : "");
-    }
-  }
-
-  Console console_;
 
  private:
   template <typename Record>

@@ -60,6 +60,14 @@ struct FindRow {
   friend std::ostream& operator<<(std::ostream& out, const FindRow& row) { return out << row.name; }
 };
 
+std::vector<string> QuestionsAbout(const std::vector<int16_t>& types) {
+  std::vector<string> questions;
+  for (const int16_t type : types) {
+    questions.push_back("pon " + std::to_string(type));
+  }
+  return questions;
+}
+
 class FindMaxPonBoard : public MaxPonTest, public testing::WithParamInterface<FindRow> {};
 
 TEST_P(FindMaxPonBoard, AmongTheBoards) {
@@ -74,7 +82,7 @@ TEST_P(FindMaxPonBoard, AmongTheBoards) {
     ExpectMaximum(GetParam().type, GetParam().ports);
     EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, GetParam().cards.size());
     EXPECT_EQ(gstSupportedBoardType.pBoardTypeArray, slots_.data());
-    EXPECT_EQ(test::FakePlatform::Get().asked_pon_cards, GetParam().asked);
+    EXPECT_EQ(test::FakePlatform::TakeAsked(), QuestionsAbout(GetParam().asked));
     EXPECT_EQ(console_.Text(), "");
   }
 }
@@ -137,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(ServiceBoards, FindMaxPonBoard, testing::ValuesIn(kFind
 TEST_F(MaxPonTest, OnlyTheAnswerZeroIsAPonBoard) {
   test::FakePlatform::Get().pon_cards = {2};
   for (const int32_t answer : {-1, 1, 2, INT32_MIN}) {
-    test::FakePlatform::Get().not_a_pon_card = answer;
+    test::FakePlatform::Get().not_of_that_kind = answer;
     Put({{1, 16}, {2, 8}, {3, 32}});
     EXPECT_EQ(ddFindSupportedBoardMaxPonNum(), 0);
     ExpectMaximum(2, 8);
@@ -172,7 +180,7 @@ TEST_P(FindMaxPonBoardInVain, TouchesNothing) {
     ExpectMaximum(0x7e7e, 0x6d6d);
     EXPECT_EQ(console_.Text(), debug != 0 ? GetParam().debug_console : "");
     EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, GetParam().count);
-    EXPECT_TRUE(test::FakePlatform::Get().asked_pon_cards.empty());
+    EXPECT_TRUE(test::FakePlatform::Get().asked.empty());
   }
 }
 

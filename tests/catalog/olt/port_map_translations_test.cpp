@@ -7,12 +7,14 @@
 
 #include "catalog/olt/main_boards.h"
 #include "catalog/olt/port_map_queries.h"
+#include "support/asking.h"
 #include "support/definition_file.h"
 #include "support/text.h"
 
 namespace {
 
 using std::string;
+using test::kUntouched;
 
 // The value of logic port i + 1 in the file: most physical ports have some logic
 // ports, some have none; some logic ports are wired to nothing, some to ports
@@ -87,12 +89,12 @@ class Translations : public test::LibraryTest, public testing::WithParamInterfac
 TEST_P(Translations, OfEveryPhysicalPort) {
   for (uint32_t port = 0; port <= 1280; ++port) {
     const std::vector<uint32_t> expected = PlainLogicPorts(plain_, port);
-    std::vector<uint32_t> logic_ports(1280, 9999);
-    uint32_t count = 7777;
+    std::vector<uint32_t> logic_ports(1280, kUntouched);
+    uint32_t count = kUntouched;
     ASSERT_EQ(ddGetSwitchChipLogicPortFromPhyPort(port, map_.get(), logic_ports.data(), &count), 0);
     ASSERT_EQ(count, expected.size()) << port;
     for (size_t i = 0; i < 1280; ++i) {
-      ASSERT_EQ(logic_ports[i], i < expected.size() ? expected[i] : 9999) << port;
+      ASSERT_EQ(logic_ports[i], i < expected.size() ? expected[i] : kUntouched) << port;
     }
   }
 }
@@ -104,14 +106,14 @@ TEST_P(Translations, OfPhysicalPortsThatNoChipHas) {
     refused.push_back(65536 + port);
   }
   for (const uint32_t port : refused) {
-    std::vector<uint32_t> logic_ports(1280, 9999);
-    uint32_t count = 7777;
+    std::vector<uint32_t> logic_ports(1280, kUntouched);
+    uint32_t count = kUntouched;
     ASSERT_EQ(ddGetSwitchChipLogicPortFromPhyPort(port, map_.get(), logic_ports.data(), &count),
               -23);
-    EXPECT_EQ(count, 7777u);
+    EXPECT_EQ(count, kUntouched);
     EXPECT_EQ(logic_ports[0], 0u);
     for (size_t i = 1; i < 1280; ++i) {
-      ASSERT_EQ(logic_ports[i], 9999u);
+      ASSERT_EQ(logic_ports[i], kUntouched);
     }
   }
   EXPECT_EQ(console.Text(), "");
@@ -122,12 +124,12 @@ TEST_P(Translations, OfEveryLogicPort) {
   for (uint32_t port = 0; port <= 1280; ++port) {
     const uint32_t place = PlainPlace(plain_, port);
     const bool is_wired = place < 1280 && plain_[place].phy_port != 0;
-    uint32_t phy_port = 7777;
+    uint32_t phy_port = kUntouched;
     ASSERT_EQ(ddGetSwitchChipPhyPortFromLogicPort(port, map_.get(), &phy_port), place == 1280 ? -22
                                                                                 : is_wired    ? 0
                                                                                               : -23)
         << port;
-    ASSERT_EQ(phy_port, is_wired ? plain_[place].phy_port : 7777) << port;
+    ASSERT_EQ(phy_port, is_wired ? plain_[place].phy_port : kUntouched) << port;
   }
   ddDebugPrint = 1;  // none of these answers has a text
   uint32_t phy_port = 0;
@@ -140,29 +142,20 @@ TEST_P(Translations, OfEveryLogicPort) {
 TEST_P(Translations, OfLogicPortsThatNoChipHas) {
   test::Console console;
   for (const uint32_t port : {1281u, 1282u, 65536u, 65537u, 0x7fffffffu, 0x80000000u, ~0u}) {
-    uint32_t phy_port = 7777;
+    uint32_t phy_port = kUntouched;
     EXPECT_EQ(ddGetSwitchChipPhyPortFromLogicPort(port, map_.get(), &phy_port), -23);
     EXPECT_EQ(phy_port, 0u);
   }
   EXPECT_EQ(console.Text(), "");
 }
 
-// The form without limits: ports beyond 1280, the place of the pair.
-TEST_P(Translations, WithoutALimit) {
+// The place of the pair, and ports beyond 1280.
+TEST_P(Translations, ToThePair) {
   for (uint32_t port = 0; port <= 1500; ++port) {
     const uint32_t place = PlainPlace(plain_, port);
     const PortPair* const pair = sys_context::FindLogicPort(*map_, port);
     ASSERT_EQ(pair, place == 1280 ? nullptr : &map_->astPortPair[place]) << port;
     ASSERT_EQ(sys_context::FindLogicPort(*map_, 0xffffff00u + port % 256), pair) << port;
-  }
-  std::vector<uint32_t> logic_ports(1280);
-  for (uint32_t port = 0; port <= 65535; port += port < 1500 ? 1 : 487) {
-    const std::vector<uint32_t> expected = PlainLogicPorts(plain_, port);
-    for (const uint32_t asked : {port, 65536 + port}) {
-      ASSERT_EQ(sys_context::FindPhyPort(*map_, asked, logic_ports.data(), 1280), expected.size());
-      const auto end = logic_ports.begin() + static_cast<std::ptrdiff_t>(expected.size());
-      ASSERT_EQ(std::vector<uint32_t>(logic_ports.begin(), end), expected) << asked;
-    }
   }
 }
 
@@ -181,9 +174,9 @@ class PortMapTest : public test::LibraryTest {
   }
 
   std::unique_ptr<PortMap> map_ = std::make_unique<PortMap>();
-  std::vector<uint32_t> logic_ports_ = std::vector<uint32_t>(1280, 9999);
-  uint32_t count_ = 7777;
-  uint32_t phy_port_ = 7777;
+  std::vector<uint32_t> logic_ports_ = std::vector<uint32_t>(1280, kUntouched);
+  uint32_t count_ = kUntouched;
+  uint32_t phy_port_ = kUntouched;
   test::Console console_;
 };
 
@@ -201,9 +194,9 @@ TEST_F(PortMapTest, TheFirstPairOfALogicPortAnswers) {
   EXPECT_EQ(PhyPort(5), 0);
   EXPECT_EQ(phy_port_, 50u);
   map_->astPortPair[0].usPhyPort = 0;  // also when it is wired to nothing
-  phy_port_ = 7777;
+  phy_port_ = kUntouched;
   EXPECT_EQ(PhyPort(5), -23);
-  EXPECT_EQ(phy_port_, 7777u);
+  EXPECT_EQ(phy_port_, kUntouched);
 }
 
 TEST_F(PortMapTest, ThePairInTheLastPlace) {
@@ -245,16 +238,15 @@ TEST_F(PortMapTest, RoomForLessThanAll) {
   map_->astPortPair[4] = {14, 50};
   map_->astPortPair[9] = {19, 50};
   const std::vector<uint32_t> all = {11, 14, 19};
-  EXPECT_EQ(sys_context::FindPhyPort(*map_, 50, nullptr, 0), 3u);
-  for (uint32_t room = 0; room <= 5; ++room) {
-    std::vector<uint32_t> ports(6, 9999);
-    EXPECT_EQ(sys_context::FindPhyPort(*map_, 50, ports.data(), room), 3u);
+  for (uint32_t room = 1; room <= 5; ++room) {
+    std::vector<uint32_t> ports(6, kUntouched);
+    uint32_t count = kUntouched;
+    EXPECT_EQ(sys_context::FindLogicPorts(50, map_.get(), ports.data(), room, &count), 0);
+    EXPECT_EQ(count, 3u);
     for (uint32_t i = 0; i < 6; ++i) {
-      EXPECT_EQ(ports[i], i < room && i < 3 ? all[i] : 9999) << room;
+      EXPECT_EQ(ports[i], i < room && i < 3 ? all[i] : kUntouched) << room;
     }
   }
-  EXPECT_EQ(sys_context::FindPhyPort(*map_, 51, nullptr, 0), 0u);
-  EXPECT_EQ(sys_context::FindPhyPort(*map_, 0, nullptr, 0), 1277u);
 }
 
 // ---- Refusals ----------------------------------------------------------------------
@@ -262,10 +254,10 @@ TEST_F(PortMapTest, RoomForLessThanAll) {
 TEST_F(PortMapTest, PhysicalPortAboveTheLimit) {
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
-    logic_ports_[0] = 9999;
+    logic_ports_[0] = kUntouched;
     EXPECT_EQ(LogicPorts(1281), -23);
     EXPECT_EQ(logic_ports_[0], 0u);
-    EXPECT_EQ(count_, 7777u);
+    EXPECT_EQ(count_, kUntouched);
     EXPECT_EQ(console_.Text(),
               debug == 0 ? ""
                          : "\r\nddGetSwitchChipLogicPortFromPhyPort err!, ulPhyPortIn = 1281, "
@@ -276,7 +268,7 @@ TEST_F(PortMapTest, PhysicalPortAboveTheLimit) {
             "\r\nddGetSwitchChipLogicPortFromPhyPort err!, ulPhyPortIn = -1, "
             "MAX_SWITCH_CHIP_LOGIC_PORT_NUM = 1280");
   // The array's first place is cleared alone, and the count is not looked at.
-  uint32_t place = 9999;
+  uint32_t place = kUntouched;
   EXPECT_EQ(ddGetSwitchChipLogicPortFromPhyPort(1281, map_.get(), &place, nullptr), -23);
   EXPECT_EQ(place, 0u);
 }
@@ -284,7 +276,7 @@ TEST_F(PortMapTest, PhysicalPortAboveTheLimit) {
 TEST_F(PortMapTest, LogicPortAboveTheLimit) {
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
-    phy_port_ = 7777;
+    phy_port_ = kUntouched;
     EXPECT_EQ(PhyPort(1281), -23);
     EXPECT_EQ(phy_port_, 0u);
     EXPECT_EQ(console_.Text(),
@@ -314,8 +306,8 @@ TEST_F(PortMapTest, LogicPortsWithoutAMapOrAnArray) {
   EXPECT_EQ(console_.Text(),
             "\r\nddGetSwitchChipLogicPortFromPhyPort err!, pstChipLogicPortToPhyPortType = 0x0, "
             "pulLogicPort = 0x0");
-  EXPECT_EQ(logic_ports_[0], 9999u);
-  EXPECT_EQ(count_, 7777u);
+  EXPECT_EQ(logic_ports_[0], kUntouched);
+  EXPECT_EQ(count_, kUntouched);
 }
 
 string NullForPhyPort(const void* map, const void* port) {
@@ -337,7 +329,7 @@ TEST_F(PortMapTest, PhysicalPortWithoutAMapOrAResult) {
   EXPECT_EQ(console_.Text(),
             "\r\nddddGetSwitchChipPhyPortFromLogicPort err!, pstChipLogicPortToPhyPortType = 0x0, "
             "pulPhyPort = 0x0");
-  EXPECT_EQ(phy_port_, 7777u);
+  EXPECT_EQ(phy_port_, kUntouched);
 }
 
 }  // namespace

@@ -185,7 +185,7 @@ TEST_F(ServiceBoardFaults, NoMemoryForTheListLeavesTheCount) {
       EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 0x6d6du);
       EXPECT_EQ(faults.opens.count(), 1);  // the number; no entry is read
       EXPECT_EQ(faults.OwnBlocks(), 0u);
-      EXPECT_TRUE(test::FakePlatform::Get().asked_pon_cards.empty());
+      EXPECT_TRUE(test::FakePlatform::Get().asked.empty());
     }
   }
 }

@@ -313,7 +313,7 @@ TEST_P(LoadNoServiceBoards, ReportsAnEmptyListAndFindsNoMaximum) {
     EXPECT_EQ(gstSupportedBoardType.pBoardTypeArray, nullptr);
     ExpectMaximum(0x7e7e, 0x6d6d);
     EXPECT_EQ(finish.calls, 0);
-    EXPECT_TRUE(test::FakePlatform::Get().asked_pon_cards.empty());
+    EXPECT_TRUE(test::FakePlatform::Get().asked.empty());
     EXPECT_EQ(faults.opens.count(), 1);
     EXPECT_EQ(faults.allocations.count(), 0);
     ExpectAllClosed(faults);
@@ -534,7 +534,8 @@ TEST_F(ServiceBoards, LoadingFindsTheLargestPonBoard) {
   EXPECT_EQ(ddReadAllSupportedBoardInformation(BoardFaults::kPath), 0);
   EXPECT_EQ(console_.Text(), "");
   ExpectMaximum(66, 2);
-  EXPECT_EQ(test::FakePlatform::Get().asked_pon_cards, (std::vector<int16_t>{65, 66, 67, 68}));
+  EXPECT_EQ(test::FakePlatform::TakeAsked(),
+            (std::vector<string>{"pon 65", "pon 66", "pon 67", "pon 68"}));
   test::ExpectNoLeak(faults);
 }
 
