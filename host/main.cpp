@@ -6,10 +6,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "host/ask.h"
 #include "host/console.h"
 #include "host/modules.h"
 #include "host/options.h"
@@ -17,6 +19,7 @@
 #include "host/startup.h"
 #include "host/telnet_server.h"
 #include "host/terminal.h"
+#include "sys_context/context.h"
 
 namespace sysctx {
 namespace {
@@ -27,7 +30,10 @@ void StartAndReport() {
   fflush(stdout);
 }
 
-int RunOne(const std::string& command) {
+// Starts the library for one answer, which `action` writes to the file that it is
+// given: console text and the report of a failed start go to standard error.
+// Returns what `action` does.
+int OnCard(const std::function<int(FILE* out)>& action) {
   ConsoleOnStderr console;
   const StartUp start_up = StartLibrary();
   if (start_up.Failed()) {
@@ -35,16 +41,39 @@ int RunOne(const std::string& command) {
   } else {
     fputs(DescribeConsole(start_up.console).c_str(), stderr);
   }
-  Session session;
-  const Outcome outcome = session.Run(command, console.out());
+  const int status = action(console.out());
   if (!console.Finish()) {
     throw std::runtime_error("the output cannot be written");
   }
-  if (!outcome.ran) {
-    const std::string& message = outcome.message;
-    fprintf(stderr, "sysctx: %s", message.empty() ? "the command was refused\n" : message.c_str());
+  return status;
+}
+
+int RunOne(const std::string& command) {
+  return OnCard([&](FILE* out) {
+    Session session;
+    const Outcome outcome = session.Run(command, out);
+    if (!outcome.ran) {
+      const std::string& message = outcome.message;
+      fprintf(stderr, "sysctx: %s",
+              message.empty() ? "the command was refused\n" : message.c_str());
+    }
+    return ExitStatus(outcome);
+  });
+}
+
+int AskOne(const Words& words) {
+  try {
+    const Question question = PrepareQuestion(words);
+    return OnCard([&](FILE* out) {
+      const Answer answer = question();
+      fputs(DescribeConsole(answer.console).c_str(), stderr);
+      fputs(DescribeAnswer(answer).c_str(), out);
+      return ExitStatus(answer);
+    });
+  } catch (const BadQuestion& error) {
+    fprintf(stderr, "sysctx: %s", error.what());
+    return kBadRequest;
   }
-  return ExitStatus(outcome);
 }
 
 int ServeTelnet(uint16_t port) {
@@ -78,10 +107,18 @@ int Main(const std::vector<std::string>& arguments) {
     printf("sysctx %s\n", SYSCTX_VERSION);
     return EXIT_SUCCESS;
   }
+  if (options.action == Action::kAsk && options.question.empty()) {
+    fputs(DescribeQueries().c_str(), stdout);
+    return EXIT_SUCCESS;
+  }
+  ddDebugPrint = options.debug ? 1 : 0;
   OpenRoot(options.root.empty() ? SYSCTX_DEFAULT_ROOT : options.root);
   curl_global_init(CURL_GLOBAL_DEFAULT);
   if (options.action == Action::kRun) {
     return RunOne(options.command);
+  }
+  if (options.action == Action::kAsk) {
+    return AskOne(options.question);
   }
   return options.action == Action::kServe ? ServeTelnet(options.port) : ServeLocally();
 }

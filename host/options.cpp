@@ -8,7 +8,8 @@
 namespace sysctx {
 
 const char* const kUsage =
-    "Usage: sysctx [--root DIR] [run COMMAND | serve --telnet PORT]\n"
+    "Usage: sysctx [--root DIR] [--debug]\n"
+    "              [run COMMAND | ask [QUERY [ARGUMENT ...]] | serve --telnet PORT]\n"
     "\n"
     "A simulated control card: loads the definition files below DIR and serves the\n"
     "diagnostic commands.\n"
@@ -16,16 +17,24 @@ const char* const kUsage =
     "  (nothing)            a shell on this terminal; commands are read line by line\n"
     "                       when the input is no terminal\n"
     "  run COMMAND          print one command's output and exit with its result\n"
+    "  ask QUERY ARGUMENT ...\n"
+    "                       call a query of the library by name and print what it\n"
+    "                       answers: \"sysctx ask ddIsRealSlot 7\"\n"
+    "  ask                  list the queries with their arguments\n"
     "  serve --telnet PORT  the shell for telnet clients on 127.0.0.1; 0 chooses a port\n"
     "\n"
     "  --root DIR           the card's files: DIR/equipment.toml, and \"/mnt/work/...\" and\n"
     "                       \"/mem/...\" as DIR/mnt/work/... and DIR/mem/...\n"
     "                       (default: a sample chassis)\n"
+    "  --debug              print the messages that depend on ddDebugPrint, too\n"
     "  --help               this text\n"
     "  --version            the version of sysctx\n"
     "\n"
-    "Exit status: the command's result (its low 8 bits) with run; 2 for an unknown\n"
-    "command; 1 when sysctx cannot start.\n";
+    "Options stand in front of COMMAND and QUERY; all that follows these belongs to them.\n"
+    "\n"
+    "Exit status: the command's result (its low 8 bits) with run; with ask 0, or the\n"
+    "low 8 bits of a negative code; 2 for an unknown command or query and for wrong\n"
+    "arguments of a query; 1 when sysctx cannot start.\n";
 
 namespace {
 
@@ -53,6 +62,8 @@ class Parser {
       options_.root = Value(argument, "--root");
     } else if (IsOption(argument, "--telnet")) {
       port_ = Value(argument, "--telnet");
+    } else if (argument == "--debug") {
+      options_.debug = true;
     } else if (argument.starts_with("-")) {
       throw OptionError("unknown option '" + argument + "'" + kHint);
     } else {
@@ -61,9 +72,14 @@ class Parser {
   }
 
   void TakeWord(const std::string& word) {
-    if (word == "run") {
+    if (is_asking_) {
+      TakeQuestion();
+    } else if (word == "run") {
       SetAction(Action::kRun);
       TakeCommand();
+    } else if (word == "ask") {
+      SetAction(Action::kAsk);
+      is_asking_ = true;
     } else if (word == "serve") {
       SetAction(Action::kServe);
     } else {
@@ -79,6 +95,13 @@ class Parser {
     if (options_.command.find_first_not_of(" \t") == std::string::npos) {
       throw OptionError(std::string("'run' needs a command") + kHint);
     }
+  }
+
+  // The word just met is the query, and everything behind it its arguments.
+  void TakeQuestion() {
+    options_.question.assign(arguments_.begin() + static_cast<ptrdiff_t>(next_) - 1,
+                             arguments_.end());
+    next_ = arguments_.size();
   }
 
   void SetAction(Action action) {
@@ -129,6 +152,7 @@ class Parser {
 
   const std::vector<std::string>& arguments_;
   size_t next_ = 0;
+  bool is_asking_ = false;  // behind "ask"
   std::optional<std::string> port_;
   Options options_;
 };

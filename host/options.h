@@ -8,13 +8,15 @@
 
 namespace sysctx {
 
-enum class Action { kTerminal, kRun, kServe, kHelp, kVersion };
+enum class Action { kTerminal, kRun, kAsk, kServe, kHelp, kVersion };
 
 struct Options {
   Action action = Action::kTerminal;
-  std::string root;     // empty: the built-in sample
-  std::string command;  // of kRun
-  uint16_t port = 0;    // of kServe
+  std::string root;                   // empty: the built-in sample
+  bool debug = false;                 // the library's gated messages are printed
+  std::string command;                // of kRun
+  std::vector<std::string> question;  // of kAsk: the query and its arguments; none: list them
+  uint16_t port = 0;                  // of kServe
 };
 
 class OptionError : public std::runtime_error {

@@ -130,7 +130,7 @@ Outcome RunLine(Session& session, const std::string& line, FILE* messages) {
 }  // namespace
 
 int ExitStatus(const Outcome& outcome) {
-  return outcome.ran ? outcome.result & 0xff : kNoSuchCommand;
+  return outcome.ran ? outcome.result & 0xff : kBadRequest;
 }
 
 int RunTerminal(Session& session) {

@@ -15,8 +15,10 @@ int RunTerminal(Session& session);
 // status of the last command.
 int RunScript(Session& session, FILE* input);
 
-// Exit status of one command: the low byte of its result, or kNoSuchCommand.
-inline constexpr int kNoSuchCommand = 2;
+// Exit status for an unknown command or query, or wrong arguments.
+inline constexpr int kBadRequest = 2;
+
+// Exit status of one command: the low byte of its result, or kBadRequest.
 int ExitStatus(const Outcome& outcome);
 
 }  // namespace sysctx

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <ostream>
 
 #include "host/temporary_folder.h"
 
@@ -117,6 +118,7 @@ struct Refusal {
   const char* name;
   const char* text;
   const char* message;  // behind the file's name
+  friend std::ostream& operator<<(std::ostream& out, const Refusal& row) { return out << row.name; }
 };
 
 class EquipmentRefusal : public testing::TestWithParam<Refusal> {};
@@ -249,7 +251,7 @@ constexpr Refusal kRefusals[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, EquipmentRefusal, testing::ValuesIn(kRefusals),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 // The words of a syntax error are the parser's; file and line are ours.
 TEST(Equipment, SyntaxErrorNamesFileAndLine) {

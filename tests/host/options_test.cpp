@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
+
 namespace sysctx {
 namespace {
 
@@ -15,6 +17,7 @@ struct Line {
   const char* root;
   const char* command;
   uint16_t port;
+  friend std::ostream& operator<<(std::ostream& out, const Line& row) { return out << row.name; }
 };
 
 class OptionLine : public testing::TestWithParam<Line> {};
@@ -43,16 +46,65 @@ const Line kLines[] = {
     {"Help", {"--help"}, Action::kHelp, "", "", 0},
     {"ShortHelp", {"-h"}, Action::kHelp, "", "", 0},
     {"HelpWins", {"--help", "run", "x"}, Action::kHelp, "", "x", 0},
+    {"HelpBehindAsk", {"ask", "--help"}, Action::kHelp, "", "", 0},
+    {"HelpWinsOverAsk", {"--help", "ask", "q"}, Action::kHelp, "", "", 0},
     {"Version", {"--version"}, Action::kVersion, "", "", 0},
 };
 
 INSTANTIATE_TEST_SUITE_P(All, OptionLine, testing::ValuesIn(kLines),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
+
+struct Question {
+  const char* name;
+  Arguments arguments;
+  Arguments question;
+  const char* root;
+  bool debug;
+  friend std::ostream& operator<<(std::ostream& out, const Question& row) {
+    return out << row.name;
+  }
+};
+
+class AskLine : public testing::TestWithParam<Question> {};
+
+TEST_P(AskLine, IsUnderstood) {
+  const Options options = ParseOptions(GetParam().arguments);
+  EXPECT_EQ(options.action, Action::kAsk);
+  EXPECT_EQ(options.question, GetParam().question);
+  EXPECT_EQ(options.root, GetParam().root);
+  EXPECT_EQ(options.debug, GetParam().debug);
+}
+
+const Question kQuestions[] = {
+    {"Alone", {"ask"}, {}, "", false},
+    {"Query", {"ask", "q"}, {"q"}, "", false},
+    {"Arguments", {"ask", "q", "7", "", "a b"}, {"q", "7", "", "a b"}, "", false},
+    {"EmptyQuery", {"ask", ""}, {""}, "", false},
+    {"OptionsInFront", {"--debug", "--root", "d", "ask", "q"}, {"q"}, "d", true},
+    {"OptionsBehindAsk", {"ask", "--root=d", "--debug", "q", "1"}, {"q", "1"}, "d", true},
+    {"OptionsBehindTheQuery", {"ask", "q", "--debug", "-x"}, {"q", "--debug", "-x"}, "", false},
+    {"OptionAlone", {"ask", "--debug"}, {}, "", true},
+    {"QueryLikeAWord", {"ask", "run", "ask"}, {"run", "ask"}, "", false},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, AskLine, testing::ValuesIn(kQuestions),
+                         testing::PrintToStringParamName());
+
+TEST(DebugOption, GoesWithAnyAction) {
+  for (const Arguments& arguments : {Arguments{"--debug"}, Arguments{"--debug", "run", "x"},
+                                     Arguments{"serve", "--telnet", "0", "--debug"}}) {
+    EXPECT_TRUE(ParseOptions(arguments).debug);
+  }
+  for (const Arguments& arguments : {Arguments{}, Arguments{"run", "x", "--debug"}}) {
+    EXPECT_FALSE(ParseOptions(arguments).debug);
+  }
+}
 
 struct BadLine {
   const char* name;
   Arguments arguments;
   const char* message;
+  friend std::ostream& operator<<(std::ostream& out, const BadLine& row) { return out << row.name; }
 };
 
 class BadOptionLine : public testing::TestWithParam<BadLine> {};
@@ -77,6 +129,11 @@ const BadLine kBadLines[] = {
     {"RunBlankCommand", {"run", " \t"}, "'run' needs a command (see sysctx --help)"},
     {"ServeWithoutPort", {"serve"}, "'serve' needs --telnet PORT (see sysctx --help)"},
     {"TelnetWithoutServe", {"--telnet", "23"}, "--telnet goes with 'serve' (see sysctx --help)"},
+    {"TelnetWithAsk",
+     {"--telnet", "23", "ask", "q"},
+     "--telnet goes with 'serve' (see sysctx --help)"},
+    {"UnknownOptionBehindAsk", {"ask", "-x", "q"}, "unknown option '-x' (see sysctx --help)"},
+    {"DebugWithValue", {"--debug=1"}, "unknown option '--debug=1' (see sysctx --help)"},
     {"PortName",
      {"serve", "--telnet", "telnet"},
      "bad port 'telnet': a number from 0 to 65535 is wanted"},
@@ -92,7 +149,7 @@ const BadLine kBadLines[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, BadOptionLine, testing::ValuesIn(kBadLines),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace sysctx

@@ -3,6 +3,8 @@
 #include <arpa/inet.h>
 #include <gmock/gmock.h>
 
+#include <ostream>
+
 #include "host/equipment.h"
 #include "host/modules.h"
 #include "sys_context/olt.h"
@@ -98,6 +100,9 @@ struct PortFamily {
   uint32_t ports;
   uint32_t first;
   uint32_t last;
+  friend std::ostream& operator<<(std::ostream& out, const PortFamily& row) {
+    return out << row.name;
+  }
 };
 
 class OnuService : public PlatformFacts, public testing::WithParamInterface<PortFamily> {};
@@ -138,7 +143,7 @@ const PortFamily kFamilies[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, OnuService, testing::ValuesIn(kFamilies),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 TEST_F(PlatformFacts, SpecialPortsOfOneType) {
   uint32_t result = kUntouched;

@@ -10,6 +10,7 @@
 #include <climits>
 #include <cstdio>
 #include <cstring>
+#include <ostream>
 #include <stdexcept>
 
 #include "host/temporary_folder.h"
@@ -33,6 +34,7 @@ struct PathRow {
   const char* name;
   const char* path;
   bool is_mapped;
+  friend std::ostream& operator<<(std::ostream& out, const PathRow& row) { return out << row.name; }
 };
 
 class RootPath : public Root, public testing::WithParamInterface<PathRow> {};
@@ -65,7 +67,7 @@ constexpr PathRow kPaths[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, RootPath, testing::ValuesIn(kPaths),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 TEST_F(Root, WithoutARootNothingIsMapped) {
   SetRoot("");

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
+#include <ostream>
 
 #include "host/records.h"
 #include "host/registry.h"
@@ -173,6 +174,7 @@ struct Refused {
   const char* name;
   const char* line;
   const char* message;
+  friend std::ostream& operator<<(std::ostream& out, const Refused& row) { return out << row.name; }
 };
 
 class ShellRefusal : public Shell, public testing::WithParamInterface<Refused> {};
@@ -200,7 +202,7 @@ constexpr Refused kRefusedLines[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, ShellRefusal, testing::ValuesIn(kRefusedLines),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 TEST_F(Shell, RemovedCommandsAreUnknown) {
   for (const char* line : {"enable", "disable", "configure terminal", "logout"}) {
@@ -212,6 +214,9 @@ struct Filtered {
   const char* name;
   const char* line;
   const char* output;
+  friend std::ostream& operator<<(std::ostream& out, const Filtered& row) {
+    return out << row.name;
+  }
 };
 
 class ShellFilter : public Shell, public testing::WithParamInterface<Filtered> {};
@@ -242,7 +247,7 @@ constexpr Filtered kFilteredLines[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, ShellFilter, testing::ValuesIn(kFilteredLines),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 TEST_F(Shell, FiltersEndWithTheirCommand) {
   Run("show context version | include KT33");
@@ -293,6 +298,9 @@ struct Question {
   const char* name;
   const char* line;
   const char* answer;
+  friend std::ostream& operator<<(std::ostream& out, const Question& row) {
+    return out << row.name;
+  }
 };
 
 class ShellQuestion : public Shell, public testing::WithParamInterface<Question> {};
@@ -339,7 +347,7 @@ constexpr Question kQuestions[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, ShellQuestion, testing::ValuesIn(kQuestions),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         testing::PrintToStringParamName());
 
 TEST_F(Shell, QuestionInALineIsAnswered) {
   EXPECT_TRUE(Run("sh con ?").ran);

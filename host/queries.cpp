@@ -1,0 +1,15 @@
+// The families of queries.
+#include "host/queries.h"
+
+namespace sysctx {
+
+const std::vector<QueryFamily>& AllQueries() {
+  static const std::vector<QueryFamily> families = {
+      {"context", ContextQueries()},
+      {"olt", OltQueries()},
+      {"frame", FrameQueries()},
+  };
+  return families;
+}
+
+}  // namespace sysctx

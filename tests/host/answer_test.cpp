@@ -1,0 +1,87 @@
+// Answers as text, and the exit status that they give.
+#include "host/answer.h"
+
+#include <gmock/gmock.h>
+
+#include <ostream>
+
+namespace sysctx {
+namespace {
+
+using Kind = Output::Kind;
+using Numbers = std::vector<std::optional<int64_t>>;
+constexpr std::nullopt_t kNone = std::nullopt;
+
+struct Shown {
+  const char* name;
+  std::vector<Output> outputs;
+  const char* text;
+  friend std::ostream& operator<<(std::ostream& out, const Shown& row) { return out << row.name; }
+};
+
+class AnswerText : public testing::TestWithParam<Shown> {};
+
+TEST_P(AnswerText, IsOneLineForEachItem) {
+  EXPECT_EQ(DescribeAnswer({"code", 0, GetParam().outputs, ""}),
+            std::string("code = 0\n") + GetParam().text);
+}
+
+Output Count(std::optional<int64_t> number) {
+  return {Kind::kNumber, "count", {number}, kNone};
+}
+
+Output TheList(const Numbers& numbers) {
+  return {Kind::kList, "list", numbers, kNone};
+}
+
+const Shown kShown[] = {
+    {"Nothing", {}, ""},
+    {"Number", {Count(7)}, "count = 7\n"},
+    {"LargestNumber", {Count(4294967295)}, "count = 4294967295\n"},
+    {"NegativeNumber", {Count(-7)}, "count = -7\n"},
+    {"NumberUntouched", {Count(kNone)}, "count = (untouched)\n"},
+    {"Text", {{Kind::kText, "text", {}, "KT 1"}}, "text = KT 1\n"},
+    {"EmptyText", {{Kind::kText, "text", {}, ""}}, "text =\n"},
+    {"TextUntouched", {{Kind::kText, "text", {}, kNone}}, "text = (untouched)\n"},
+    {"List", {TheList({4, 5, 6}), Count(2)}, "list = 4 5\ncount = 2\n"},
+    {"ListOfAll", {TheList({4, 5, 6}), Count(3)}, "list = 4 5 6\ncount = 3\n"},
+    {"CountTooLarge", {TheList({4, 5}), Count(4294967295)}, "list = 4 5\ncount = 4294967295\n"},
+    {"CountNegative", {TheList({4, 5}), Count(-1)}, "list =\ncount = -1\n"},
+    {"ListEmpty", {TheList({kNone, kNone}), Count(0)}, "list =\ncount = 0\n"},
+    {"ListEmptyButWritten", {TheList({4, kNone}), Count(0)}, "list =\ncount = 0\n"},
+    {"PlacesLeftAlone",
+     {TheList({4, kNone, 6, kNone}), Count(4)},
+     "list = 4 (untouched) 6 (untouched)\ncount = 4\n"},
+    {"ListUntouched", {TheList({kNone, kNone}), Count(2)}, "list = (untouched)\ncount = 2\n"},
+    {"AllUntouched",
+     {TheList({kNone, kNone}), Count(kNone)},
+     "list = (untouched)\ncount = (untouched)\n"},
+    {"CountUntouched",
+     {TheList({4, kNone, 6, kNone}), Count(kNone)},
+     "list = 4 (untouched) 6\ncount = (untouched)\n"},
+    {"TwoLists",
+     {TheList({4, 5}), Count(1), TheList({6, 7}), Count(2)},
+     "list = 4\ncount = 1\nlist = 6 7\ncount = 2\n"},
+    {"TextInFrontOfTheCount",
+     {TheList({4, 5}), {Kind::kText, "text", {}, "t"}, Count(1)},
+     "list = 4\ntext = t\ncount = 1\n"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, AnswerText, testing::ValuesIn(kShown),
+                         testing::PrintToStringParamName());
+
+TEST(AnswerText, BeginsWithTheValue) {
+  EXPECT_EQ(DescribeAnswer({"code", -25, {}, ""}), "code = -25\n");
+  EXPECT_EQ(DescribeAnswer({"value", 10, {}, ""}), "value = 10\n");
+}
+
+TEST(AnswerStatus, IsZeroOrTheLowByteOfANegativeCode) {
+  const std::pair<int32_t, int> rows[] = {{0, 0},    {1, 0},     {258, 0},   {INT32_MAX, 0},
+                                          {-1, 255}, {-25, 231}, {-257, 255}};
+  for (const auto& [code, status] : rows) {
+    EXPECT_EQ(ExitStatus(Answer{"code", code, {}, ""}), status) << code;
+  }
+}
+
+}  // namespace
+}  // namespace sysctx
