@@ -1,0 +1,27 @@
+// The loaders of the tables, in the order in which a start calls them.
+#pragma once
+
+#include <cstdint>
+
+#include "sys_context/context.h"
+#include "sys_context/frame.h"
+#include "sys_context/olt.h"
+
+namespace bench {
+
+struct Loader {
+  const char* table;
+  int32_t (*load)(const char* file);
+};
+
+inline constexpr Loader kLoaders[] = {
+    {"versions", ddReadVersionInformation},
+    {"module types", ddReadAllModuleInformation},
+    {"system functions", ddReadSysSupportFuncInformation},
+    {"OLT port types", ddReadAllSupportedOltPortInformation},
+    {"main boards", ddReadAllSupportedMainBoardInformation},
+    {"service boards", ddReadAllSupportedBoardInformation},
+    {"frame", ddReadFrameInformation},
+};
+
+}  // namespace bench
