@@ -103,7 +103,7 @@ int32_t ddGetSwitchChipLogicPortFromSlotPort(uint32_t ulSlotOut, uint32_t ulSlot
   const auto serves = [=](const PlainEntry& entry) {
     return entry.ucSlotOut == static_cast<uint8_t>(ulSlotOut) && entry.ucSlotPort == ulSlotPort;
   };
-  // The entries of Ethernet cards stand behind those of other cards.
+  // An Ethernet card takes the last entry: its own stand behind those of other cards.
   const auto* const begin = gstFrame.astSwitchChipLogicPort;
   const auto* const end = begin + count;
   const auto* const found = HasCardOfKind(ulSlotOut, caCheckCardTypeIsEthCard)

@@ -140,7 +140,8 @@ SYS_CONTEXT_API int32_t ddReadOneSlotClass(const char* strFileName, const char* 
  * Reads which boards each real slot takes, in place of what gstFrame held; the real
  * slots must be loaded. Boards behind the hundredth of a slot, and those of slots
  * behind the last of the list, are dropped.
- * Returns 0; -2 for a null pointer; -4 without real slots; -27 without memory.
+ * Returns 0; -2 for a null pointer; -4 when the last real slot is 0; -27 without
+ * memory: what gstFrame held is released then.
  */
 SYS_CONTEXT_API int32_t ddReadSlotSupportBoard(const char* strFileName,
                                                const char* strSectionFrameName);
@@ -353,9 +354,9 @@ SYS_CONTEXT_API int32_t ddGetSwitchChipLogicPortFromSlotPort(uint32_t ulSlotOut,
                                                              uint32_t* pulChipLogicPort);
 
 /*
- * The first type-2 logic port of a chip and physical port, compared by their low 8
- * bits. The second function takes chip 0 when the library runs in slot 9, else
- * chip 1.
+ * The first type-2 logic port of a chip and physical port. The low 8 bits of the
+ * arguments are looked for; an entry with a number above 255 is never found. The second
+ * function takes chip 0 when the library runs in slot 9, else chip 1.
  * Return 0; -2 for a null pointer; -23 when there is none, the output is 0 then.
  */
 SYS_CONTEXT_API int32_t get_balance_switch_logicport_from_chipno_phyport(
@@ -364,8 +365,8 @@ SYS_CONTEXT_API int32_t get_balance_switch_logicport_from_phyport(uint32_t ulPhy
                                                                   uint32_t* pulChipLogicPort);
 
 /*
- * The first type-2 logic port of a slot, port and chip, compared by their low 8
- * bits. The second function is asked without chip and compares in full: where a port
+ * The first type-2 logic port of a slot, port and chip, of which the low 8 bits are
+ * looked for. The second function is asked without chip and compares in full: where a port
  * is served through several, it takes the first through chip 0 when the library runs
  * in slot 9, else through chip 1.
  * Return 0; -1 when there is none, the output is 0 then; -2 for a null pointer.
@@ -453,8 +454,8 @@ SYS_CONTEXT_API int32_t ddGetAllUserPortSwitchChipLogicPortList(uint32_t* pulChi
 /*
  * Type-2 logic ports of uplink slots, and those of service board slots with port 0;
  * counted first, the amount is 0 on -9. The numbers are those that the entries would
- * have as ordinary logic ports; where there are fewer of these, the place in the
- * array is left alone. -24 when more than 128 entries are loaded.
+ * have as ordinary logic ports; where there are fewer of these, or their count is
+ * corrupt, the place in the array is left alone. -24 when more than 128 entries are loaded.
  */
 SYS_CONTEXT_API int32_t get_balance_user_port_switch_logicportlist(uint32_t* pulChipLogicPort,
                                                                    uint32_t ulArrayAmount,
@@ -483,7 +484,7 @@ SYS_CONTEXT_API int32_t ddRunGetMainSlotType(uint32_t* pulMainBoardType);
  * nothing.
  *   pulPhyPort  0xFFFFFFFF when the special map wires the port to nothing
  * Returns 0; -1 when the main board is of type 389, with a message that is always
- * printed, or is not in the table; -2 for a null pointer; -22 when there is no such
+ * printed, or cannot be found; -2 for a null pointer; -22 when there is no such
  * logic port, in the frame (or it is corrupt there) or in the map, or the special map
  * wires it to nothing. The maps compare logic ports by their low 8 bits.
  */
