@@ -74,22 +74,26 @@ constexpr List<PlainEntry> kUplinkOfSlot = {
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
 };
+// The lists of all uplink ports share these texts.
+constexpr Message<const char*, uint32_t, uint32_t> kUplinkNullArgument =
+    "\r\n%s: pointer is null! pulSlotArray = 0x%x, pulPortAmount = 0x%x\r\n";
+constexpr Message<const char*, uint32_t, uint32_t> kUplinkTooSmall =
+    "\r\n%s: array space is not enough! ulArrayAmount = %d, ulUplinkLogicPortCount = %d";
+
 constexpr List<PlainEntry> kUplinkOnly = {
     .name = "ddGetUplinkLogicPortListOnly",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
-    .null_argument = "\r\n%s: pointer is null! pulSlotArray = 0x%x, pulPortAmount = 0x%x\r\n",
-    .too_small =
-        "\r\n%s: array space is not enough! ulArrayAmount = %d, ulUplinkLogicPortCount = %d",
+    .null_argument = kUplinkNullArgument,
+    .too_small = kUplinkTooSmall,
 };
 constexpr List<PlainEntry> kUplink = {
     .name = "ddGetUplinkLogicPortList",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
-    .null_argument = "\r\n%s: pointer is null! pulSlotArray = 0x%x, pulPortAmount = 0x%x\r\n",
+    .null_argument = kUplinkNullArgument,
     .above_limit = "\r\n%s: SwitchChipLogicPortNum(%d) is out of range(%d)!\r\n",
-    .too_small =
-        "\r\n%s: array space is not enough! ulArrayAmount = %d, ulUplinkLogicPortCount = %d",
+    .too_small = kUplinkTooSmall,
 };
 constexpr List<PlainEntry> kNonzeroPort = {
     .name = "ddGetNonzeroPortSwitchChipLogicPortList",

@@ -1,4 +1,4 @@
-// The numbers of the logic ports: entry to number and back, in both maps, and how
+// The numbers of the logic ports: entry to number and back, in both tables, and how
 // many entries there are.
 #include "catalog/frame/logic_port.h"
 #include "common/codes.h"

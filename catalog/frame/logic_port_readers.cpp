@@ -41,7 +41,13 @@ constexpr TableReader<PlainEntry> kPlain = {
     .take_piece =
         [](PlainEntry& entry, uint32_t place, bool is_last, uint32_t number) {
           const auto value = static_cast<uint8_t>(number);
-          (is_last ? entry.ucSlotFlag : place == 0 ? entry.ucSlotOut : entry.ucSlotPort) = value;
+          if (is_last) {
+            entry.ucSlotFlag = value;
+          } else if (place == 0) {
+            entry.ucSlotOut = value;
+          } else {
+            entry.ucSlotPort = value;
+          }
         },
 };
 

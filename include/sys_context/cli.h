@@ -83,7 +83,7 @@ SYS_CONTEXT_API int32_t ddPrintOneSupportedBoardInfomation(const BoardInformatio
                                                            void* vty);
 
 /* The frame: slots by class but for virtual and HCU slots, the boards of each slot, both
- * maps of logic ports. What is corrupt is reported in its place; 0 always. */
+ * tables of logic ports. What is corrupt is reported in its place; 0 always. */
 SYS_CONTEXT_API int32_t ddPrintFrameInfomation(void* vty);
 
 /* One class of slots. -2 without one; -4: more than 100 slots. */

@@ -6,6 +6,7 @@
 
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/null_arguments.h"
 #include "support/tables.h"
 #include "support/text.h"
 
@@ -151,33 +152,13 @@ class ModuleRecord : public test::LibraryTest {
   test::Console console_;
 };
 
-string Pointers(const void* file, const void* section, const void* address) {
-  return "\r\nddReadOneModuleInformation err! strFileName = " + Hex(file) +
-         ", strModuleSection = " + Hex(section) + ", pModuleObjAddr = " + Hex(address);
-}
-
 TEST_F(ModuleRecord, NullArgumentsTouchNothing) {
-  const test::DefinitionFile file(Sec("1", "N", "1"));
-  const char* const path = file.path();
-  const char section[] = "Sec";
-  for (const int32_t debug : {0, 1}) {
-    ddDebugPrint = debug;
-    ModuleInformation* module = kUntouched;
-    test::Faults faults;
-    EXPECT_EQ(ddReadOneModuleInformation(nullptr, section, &module), -2);
-    EXPECT_EQ(console_.Text(), Pointers(nullptr, section, &module));
-    EXPECT_EQ(ddReadOneModuleInformation(path, nullptr, &module), -2);
-    EXPECT_EQ(console_.Text(), Pointers(path, nullptr, &module));
-    EXPECT_EQ(ddReadOneModuleInformation(path, section, nullptr), -2);
-    EXPECT_EQ(console_.Text(), Pointers(path, section, nullptr));
-    EXPECT_EQ(ddReadOneModuleInformation(nullptr, nullptr, nullptr), -2);
-    EXPECT_EQ(console_.Text(),
-              "\r\nddReadOneModuleInformation err! strFileName = 0x0, strModuleSection = 0x0, "
-              "pModuleObjAddr = 0x0");
-    EXPECT_EQ(module, kUntouched);
-    EXPECT_EQ(faults.opens.count(), 0);
-    EXPECT_EQ(faults.allocations.count(), 0);
-  }
+  ModuleInformation* module = kUntouched;
+  test::ExpectNullArgumentsRefused(
+      console_,
+      "\r\nddReadOneModuleInformation err! strFileName = {file}, strModuleSection = {section}, pModuleObjAddr = {record}",
+      &module, ddReadOneModuleInformation);
+  EXPECT_EQ(module, kUntouched);
 }
 
 TEST_F(ModuleRecord, NoMemory) {

@@ -7,6 +7,7 @@
 #include "catalog/olt/main_boards.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/null_arguments.h"
 #include "support/records.h"
 #include "support/text.h"
 
@@ -244,34 +245,13 @@ class MainBoardRecord : public test::LibraryTest {
   test::Console console_;
 };
 
-string NullArgument(const void* file, const void* section, const void* address) {
-  return "\r\nddReadOneSupportedMainBoardInformation err! strFileName = " + test::Hex(file) +
-         ", strOltPonTypeSection = " + test::Hex(section) +
-         ", pOltPonTypeObjAddr = " + test::Hex(address);
-}
-
 TEST_F(MainBoardRecord, NullArgumentsTouchNothing) {
-  const test::DefinitionFile file(kSection);
-  const char* const path = file.path();
-  const char section[] = "Sec";
-  for (const int32_t debug : {0, 1}) {
-    ddDebugPrint = debug;
-    MainBoardInformation* board = kUntouched;
-    test::Faults faults;
-    EXPECT_EQ(ddReadOneSupportedMainBoardInformation(nullptr, section, &board), -2);
-    EXPECT_EQ(console_.Text(), NullArgument(nullptr, section, &board));
-    EXPECT_EQ(ddReadOneSupportedMainBoardInformation(path, nullptr, &board), -2);
-    EXPECT_EQ(console_.Text(), NullArgument(path, nullptr, &board));
-    EXPECT_EQ(ddReadOneSupportedMainBoardInformation(path, section, nullptr), -2);
-    EXPECT_EQ(console_.Text(), NullArgument(path, section, nullptr));
-    EXPECT_EQ(ddReadOneSupportedMainBoardInformation(nullptr, nullptr, nullptr), -2);
-    EXPECT_EQ(console_.Text(),
-              "\r\nddReadOneSupportedMainBoardInformation err! strFileName = 0x0, "
-              "strOltPonTypeSection = 0x0, pOltPonTypeObjAddr = 0x0");
-    EXPECT_EQ(board, kUntouched);
-    EXPECT_EQ(faults.opens.count(), 0);
-    EXPECT_EQ(faults.allocations.count(), 0);
-  }
+  MainBoardInformation* board = kUntouched;
+  test::ExpectNullArgumentsRefused(
+      console_,
+      "\r\nddReadOneSupportedMainBoardInformation err! strFileName = {file}, strOltPonTypeSection = {section}, pOltPonTypeObjAddr = {record}",
+      &board, ddReadOneSupportedMainBoardInformation);
+  EXPECT_EQ(board, kUntouched);
 }
 
 TEST_F(MainBoardRecord, NoMemory) {

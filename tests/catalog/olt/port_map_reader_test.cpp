@@ -8,6 +8,7 @@
 #include "catalog/olt/main_boards.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/null_arguments.h"
 #include "support/records.h"
 #include "support/text.h"
 
@@ -208,27 +209,12 @@ const FailRow kFails[] = {
 INSTANTIATE_TEST_SUITE_P(MainBoards, FailToReadAllPortMaps, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());
 
-string NullForAll(const void* file, const void* section, const void* board) {
-  return "\r\nddReadAllSwitchChipLogicPortToPhyPort err! strFileName = " + Hex(file) +
-         ", strOltPonTypeSection = " + Hex(section) + ", pstMainBoardInformation = " + Hex(board);
-}
-
 TEST_F(PortMaps, NullArgumentsOfAllMaps) {
-  const test::DefinitionFile file(kSection);
-  const char* const path = file.path();
-  const char section[] = "Sec";
   board_ = Marked();
-  for (const int32_t debug : {0, 1}) {
-    ddDebugPrint = debug;
-    test::Faults faults;
-    EXPECT_EQ(ddReadAllSwitchChipLogicPortToPhyPort(nullptr, section, &board_), -2);
-    EXPECT_EQ(console_.Text(), NullForAll(nullptr, section, &board_));
-    EXPECT_EQ(ddReadAllSwitchChipLogicPortToPhyPort(path, nullptr, &board_), -2);
-    EXPECT_EQ(console_.Text(), NullForAll(path, nullptr, &board_));
-    EXPECT_EQ(ddReadAllSwitchChipLogicPortToPhyPort(path, section, nullptr), -2);
-    EXPECT_EQ(console_.Text(), NullForAll(path, section, nullptr));
-    EXPECT_EQ(faults.opens.count(), 0);
-  }
+  test::ExpectNullArgumentsRefused(
+      console_,
+      "\r\nddReadAllSwitchChipLogicPortToPhyPort err! strFileName = {file}, strOltPonTypeSection = {section}, pstMainBoardInformation = {record}",
+      &board_, ddReadAllSwitchChipLogicPortToPhyPort);
   test::ExpectMainBoard(board_, Marked());
 }
 
@@ -471,27 +457,14 @@ const FailRow kSpecialFails[] = {
 INSTANTIATE_TEST_SUITE_P(MainBoards, FailToReadSpecialPortMaps, testing::ValuesIn(kSpecialFails),
                          testing::PrintToStringParamName());
 
-string NullForSpecial(const void* file, const void* section, const void* board) {
-  return "\r\nddReadSpecialSwitchChipLogicPortToPhyPort err! strFileName = " + Hex(file) +
-         ", strOltPonTypeSection = " + Hex(section) + ", pstMainBoardInformation = " + Hex(board);
-}
-
 TEST_F(PortMaps, NullArgumentsOfSpecialMaps) {
-  const test::DefinitionFile file(kSection);
-  const char* const path = file.path();
-  const char section[] = "Sec";
   board_ = Marked();
-  for (const int32_t debug : {0, 1}) {
-    ddDebugPrint = debug;
-    test::Faults faults;
-    EXPECT_EQ(ddReadSpecialSwitchChipLogicPortToPhyPort(nullptr, section, 2, &board_), -2);
-    EXPECT_EQ(console_.Text(), NullForSpecial(nullptr, section, &board_));
-    EXPECT_EQ(ddReadSpecialSwitchChipLogicPortToPhyPort(path, nullptr, 2, &board_), -2);
-    EXPECT_EQ(console_.Text(), NullForSpecial(path, nullptr, &board_));
-    EXPECT_EQ(ddReadSpecialSwitchChipLogicPortToPhyPort(path, section, 2, nullptr), -2);
-    EXPECT_EQ(console_.Text(), NullForSpecial(path, section, nullptr));
-    EXPECT_EQ(faults.opens.count(), 0);
-  }
+  test::ExpectNullArgumentsRefused(
+      console_,
+      "\r\nddReadSpecialSwitchChipLogicPortToPhyPort err! strFileName = {file}, strOltPonTypeSection = {section}, pstMainBoardInformation = {record}",
+      &board_, [](const char* file, const char* section, MainBoardInformation* board) {
+        return ddReadSpecialSwitchChipLogicPortToPhyPort(file, section, 2, board);
+      });
   test::ExpectMainBoard(board_, Marked());
 }
 

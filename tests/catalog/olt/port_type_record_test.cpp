@@ -7,6 +7,7 @@
 #include "catalog/olt/port_types.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/null_arguments.h"
 #include "support/text.h"
 
 namespace {
@@ -241,33 +242,13 @@ class PortTypeRecord : public test::LibraryTest {
   test::Console console_;
 };
 
-string NullArgument(const void* file, const void* section, const void* output) {
-  return "\r\nddReadOneSupportedOltPortInformation err! strFileName = " + Hex(file) +
-         ", strOltPortTypeSection = " + Hex(section) + ", pOltPortTypeObjAddr = " + Hex(output);
-}
-
 TEST_F(PortTypeRecord, NullArgumentsTouchNothing) {
-  const test::DefinitionFile file(kGood);
-  const char* const path = file.path();
-  const char section[] = "Sec";
-  for (const int32_t debug : {0, 1}) {
-    ddDebugPrint = debug;
-    OltPortInformation* port = kUntouched;
-    test::Faults faults;
-    EXPECT_EQ(ddReadOneSupportedOltPortInformation(nullptr, section, &port), -2);
-    EXPECT_EQ(console_.Text(), NullArgument(nullptr, section, &port));
-    EXPECT_EQ(ddReadOneSupportedOltPortInformation(path, nullptr, &port), -2);
-    EXPECT_EQ(console_.Text(), NullArgument(path, nullptr, &port));
-    EXPECT_EQ(ddReadOneSupportedOltPortInformation(path, section, nullptr), -2);
-    EXPECT_EQ(console_.Text(), NullArgument(path, section, nullptr));
-    EXPECT_EQ(ddReadOneSupportedOltPortInformation(nullptr, nullptr, nullptr), -2);
-    EXPECT_EQ(console_.Text(),
-              "\r\nddReadOneSupportedOltPortInformation err! strFileName = 0x0, "
-              "strOltPortTypeSection = 0x0, pOltPortTypeObjAddr = 0x0");
-    EXPECT_EQ(port, kUntouched);
-    EXPECT_EQ(faults.opens.count(), 0);
-    EXPECT_EQ(faults.allocations.count(), 0);
-  }
+  OltPortInformation* port = kUntouched;
+  test::ExpectNullArgumentsRefused(
+      console_,
+      "\r\nddReadOneSupportedOltPortInformation err! strFileName = {file}, strOltPortTypeSection = {section}, pOltPortTypeObjAddr = {record}",
+      &port, ddReadOneSupportedOltPortInformation);
+  EXPECT_EQ(port, kUntouched);
 }
 
 // The memory is taken behind the type and in front of the name.
