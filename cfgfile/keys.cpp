@@ -11,7 +11,7 @@ namespace {
 int32_t ReportFailure(int32_t code, const char* section, const char* key, const KeyMessage& failure,
                       Gate gate) {
   if (code != kOk) {
-    Report(gate, failure, code, section, key);
+    Report(gate, failure, code, failure.Section(section), failure.Key(key));
   }
   return code;
 }

@@ -17,8 +17,26 @@ struct Value {
   char text[CFG_VALUE_SIZE] = {};
 };
 
-// "... iResult = %d, section = %s, key = %s"; some loaders word it otherwise.
-using KeyMessage = Message<int32_t, const char*, const char*>;
+// "... iResult = %d, section = %s, key = %s"; some loaders word it otherwise, and
+// some show another section or key than those they looked for.
+class KeyMessage : public Message<int32_t, const char*, const char*> {
+ public:
+  template <size_t size>
+  consteval KeyMessage(const char (&text)[size], const char* shown_section = nullptr,
+                       const char* shown_key = nullptr)
+      : BasicMessage(text), shown_section_(shown_section), shown_key_(shown_key) {}
+
+  const char* Section(const char* looked_for) const {
+    return shown_section_ == nullptr ? looked_for : shown_section_;
+  }
+  const char* Key(const char* looked_for) const {
+    return shown_key_ == nullptr ? looked_for : shown_key_;
+  }
+
+ private:
+  const char* shown_section_;
+  const char* shown_key_;
+};
 
 // The name of a numbered key: "Module" and 3 give "Module3". Numbers above the signed
 // range become negative, as in the messages.

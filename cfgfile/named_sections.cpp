@@ -9,7 +9,8 @@ int32_t ReadAnnounced(const ListSection& list, Source& source, uint32_t& announc
     return kNullArgument;
   }
   Value value;
-  if (ReadKeyAndMove(source, list.section, list.count.key, value, list.key_unreadable) != kOk) {
+  if (ReadKeyAndMove(source, list.section, list.count.key, value,
+                     list.count_unreadable.value_or(list.key_unreadable)) != kOk) {
     return kKeyUnreadable;
   }
   if (const int32_t code = ParseCount(list.count, value, announced); code != kOk) {
@@ -22,7 +23,7 @@ int32_t ReadAnnounced(const ListSection& list, Source& source, uint32_t& announc
 }
 
 int32_t FindEntry(const ListSection& list, Source& source, const char* section) {
-  if (!list.section_not_found) {
+  if (!list.goes_by_order()) {
     return kOk;
   }
   // The section is what is wanted. Its type is read again with the record.

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 
 #include "common/codes.h"
+#include "common/memory.h"
 #include "common/messages.h"
 #include "common/names.h"
 
@@ -94,6 +96,86 @@ int32_t AskForName(const NameQuery& query, uint32_t count, Record* const* record
     }
   }
   return kNoSuchName;
+}
+
+// A request for a copy of the record of a name.
+struct CopyQuery {
+  Gate gate;
+  // kept as is: one place more than the tables have.
+  uint32_t last_index;
+  int32_t above_last_index_code;
+  bool empty_place_clears_output = true;
+
+  Message<uint32_t, uint32_t> null_argument;  // the name, the output
+  Message<uint32_t> name_too_long;            // its length
+  Message<int32_t, const char*, uint32_t> lookup_failed;
+  Message<const char*, uint32_t> not_supported;
+  Message<const char*, uint32_t> above_last_index;
+  Message<uint32_t, uint32_t> no_memory;  // the copy, the index
+  Message<uint32_t, uint32_t> empty_place;
+};
+
+// Looks up the place of a name with a query as AskForName answers it. The library's own
+// never succeed with "not supported" or a place that the table does not have; one that a
+// host puts in front of them may, which is what is checked after them.
+using FindName = int32_t (*)(const char* name, uint32_t* is_supported, uint32_t* index);
+
+template <size_t field_size>
+int32_t FindToCopy(const CopyQuery& query, FindName find, const char* name, uint32_t& index) {
+  if (const size_t length = std::strlen(name); length + 1 > field_size) {
+    Report(query.gate, query.name_too_long, static_cast<uint32_t>(length));
+    return kTextTooLong;
+  }
+  uint32_t is_supported = 0;
+  if (const int32_t code = find(name, &is_supported, &index); code != kOk) {
+    Report(query.gate, query.lookup_failed, code, name, index);
+    return code;
+  }
+  if (is_supported == 0) {
+    Report(query.gate, query.not_supported, name, is_supported);
+    return kNoSuchName;
+  }
+  if (index > query.last_index) {
+    Report(query.gate, query.above_last_index, name, index);
+    return query.above_last_index_code;
+  }
+  return kOk;
+}
+
+// Answers it with a record of the caller's own, or null after a failure other than a
+// null argument.
+template <typename Record>
+int32_t CopyByName(const CopyQuery& query, FindName find, Record* const* records, const char* name,
+                   Record** output) {
+  if (name == nullptr || output == nullptr) {
+    Report(query.gate, query.null_argument, LowBits(name), LowBits(output));
+    return kNullArgument;
+  }
+  uint32_t index = 0;
+  if (const int32_t code = FindToCopy<sizeof(Record::acName)>(query, find, name, index);
+      code != kOk) {
+    *output = nullptr;
+    return code;
+  }
+  auto copy = NewRecord<Record>();
+  if (copy == nullptr) {
+    Report(query.gate, query.no_memory, LowBits(copy.get()), index);
+    *output = nullptr;
+    return kNoMemory;
+  }
+  const Record* const saved = records[index];
+  if (saved == nullptr) {
+    Report(query.gate, query.empty_place, LowBits(saved), index);
+    if (query.empty_place_clears_output) {
+      *output = nullptr;
+    }
+    return kEmptyPlace;
+  }
+  *copy = *saved;
+  std::fill(copy->acName + std::min<size_t>(copy->ulNameLen, sizeof copy->acName),
+            std::end(copy->acName), '\0');
+  *output = copy.release();
+  return kOk;
 }
 
 }  // namespace sys_context

@@ -1,8 +1,7 @@
 // The OLT port types: their loader, and copies of their records.
-#include <cstring>
-
 #include "cfgfile/keys.h"
 #include "cfgfile/named_sections.h"
+#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/memory.h"
 #include "common/messages.h"
@@ -35,29 +34,18 @@ constexpr ListSection kPortTypeList = {
         "\r\nddReadAllSupportedOltPortInformation->ddReadOneSupportedOltPortInformation err! iResult = %d, strValueBuf = %s",
 };
 
-// kept as is: "Type" is reported in the words of the chassis loader.
-constexpr KeyMessage kTypeUnreadable =
-    "\r\nddReadOneSupportedOltPortInformation err! iResult = %d, strSectionFrameNameBuf = %s, Key = %s";
 constexpr KeyMessage kUnreadable =
     "\r\nddReadOneSupportedOltPortInformation err! iResult = %d, section = %s, key = %s";
-constexpr Message<uint32_t> kNameTooLong =
-    "\r\nddReadOneSupportedOltPortInformation err! ulNameLen = %d";
 
-// Reads a port type but for its splitting ratio.
-int32_t ReadTypeAndName(const char* file, const char* section, Owned<OltPortInformation>& port) {
-  Value type;
-  if (ReadKey(file, section, "Type", type, kTypeUnreadable) != kOk) {
-    return kKeyUnreadable;
-  }
-  port = NewRecord<OltPortInformation>();
-  if (port == nullptr) {
-    Console("\r\nddReadOneSupportedOltPortInformation->malloc err! pstOltPortInformation = 0x%x",
-            LowBits(port.get()));
-    return kNoMemory;
-  }
-  port->ulPortType = ParseUnsigned(type.text);
-  return ReadName(file, section, port->acName, port->ulNameLen, kUnreadable, kNameTooLong);
-}
+// kept as is: "Type" is reported in the words of the chassis loader.
+constexpr TypeAndName kTypeAndName = {
+    .type_unreadable =
+        "\r\nddReadOneSupportedOltPortInformation err! iResult = %d, strSectionFrameNameBuf = %s, Key = %s",
+    .no_memory =
+        "\r\nddReadOneSupportedOltPortInformation->malloc err! pstOltPortInformation = 0x%x",
+    .name_unreadable = kUnreadable,
+    .name_too_long = "\r\nddReadOneSupportedOltPortInformation err! ulNameLen = %d",
+};
 
 int32_t ReadSplittingRatio(const char* file, const char* section, OltPortInformation& port) {
   Value value;
@@ -74,34 +62,26 @@ int32_t ReadSplittingRatio(const char* file, const char* section, OltPortInforma
   return kOk;
 }
 
-// The place of the port type that is to be copied.
-int32_t FindPortType(const char* name, uint32_t& index) {
-  if (const size_t length = std::strlen(name); length + 1 > MAX_OLT_PORT_NAME_LEN) {
-    Console("\r\nddCreateOneOltPortObjByName err! strlen(strOltPortTypeName) = %d",
-            static_cast<uint32_t>(length));
-    return kTextTooLong;
-  }
-  uint32_t is_supported = 0;
-  if (const int32_t code = ddIsOltPortTypeSupportedByName(name, &is_supported, &index);
-      code != kOk) {
-    Console(
+// kept as is: the copy is asked for aloud, and an empty place leaves the output alone.
+constexpr CopyQuery kCopyByName = {
+    .gate = Gate::kAlways,
+    .last_index = MAX_OLT_PORT_TYPE_NUM,
+    .above_last_index_code = kTooManyPortTypes,
+    .empty_place_clears_output = false,
+    .null_argument =
+        "\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = 0x%x, pulOltPortTypeObjAddr = 0x%x",
+    .name_too_long = "\r\nddCreateOneOltPortObjByName err! strlen(strOltPortTypeName) = %d",
+    .lookup_failed =
         "\r\nddCreateOneOltPortObjByName->ddIsOltPortTypeSupportedByName err! iResult = %d, strOltPortTypeName = %s, ulIndex = %d",
-        code, name, index);
-    return code;
-  }
-  if (is_supported == 0) {
-    Console("\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = %s, IsSupported = %d", name,
-            is_supported);
-    return kNoSuchName;
-  }
-  // kept as is: the bound lets one place more through than the table has.
-  if (index > MAX_OLT_PORT_TYPE_NUM) {
-    Console("\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = %s, ulIndex = %d", name,
-            index);
-    return kTooManyPortTypes;
-  }
-  return kOk;
-}
+    .not_supported =
+        "\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = %s, IsSupported = %d",
+    .above_last_index =
+        "\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = %s, ulIndex = %d",
+    .no_memory =
+        "\r\nddCreateOneOltPortObjByName->malloc err! pstOltPortInformationOut = 0x%x, ulIndex = %d",
+    .empty_place =
+        "\r\nddCreateOneOltPortObjByName err! pstOltPortInformationSaved = 0x%x, ulIndex = %d",
+};
 
 }  // namespace
 }  // namespace sys_context
@@ -128,7 +108,9 @@ int32_t ddReadOneSupportedOltPortInformation(const char* strFileName,
     return kNullArgument;
   }
   Owned<OltPortInformation> port;
-  if (const int32_t code = ReadTypeAndName(strFileName, strOltPortTypeSection, port); code != kOk) {
+  if (const int32_t code = ReadTypeAndName(kTypeAndName, strFileName, strOltPortTypeSection,
+                                           &OltPortInformation::ulPortType, port);
+      code != kOk) {
     *pOltPortTypeObjAddr = nullptr;
     return code;
   }
@@ -141,40 +123,14 @@ int32_t ddReadOneSupportedOltPortInformation(const char* strFileName,
   return kOk;
 }
 
-// kept as is: prints its messages whatever ddDebugPrint holds.
 int32_t ddCreateOneOltPortObjByName(const char* strOltPortTypeName,
                                     OltPortInformation** pulOltPortTypeObjAddr) {
   using namespace sys_context;
-  if (strOltPortTypeName == nullptr || pulOltPortTypeObjAddr == nullptr) {
-    Console(
-        "\r\nddCreateOneOltPortObjByName err! strOltPortTypeName = 0x%x, pulOltPortTypeObjAddr = 0x%x",
-        LowBits(strOltPortTypeName), LowBits(pulOltPortTypeObjAddr));
-    return kNullArgument;
+  const int32_t code = CopyByName(kCopyByName, ddIsOltPortTypeSupportedByName,
+                                  gstSupportedOltPortType.pOltPortTypeArray, strOltPortTypeName,
+                                  pulOltPortTypeObjAddr);
+  if (code == kOk) {
+    (*pulOltPortTypeObjAddr)->ulLink = 0;
   }
-  uint32_t index = 0;
-  if (const int32_t code = FindPortType(strOltPortTypeName, index); code != kOk) {
-    *pulOltPortTypeObjAddr = nullptr;
-    return code;
-  }
-  auto copy = NewRecord<OltPortInformation>();
-  if (copy == nullptr) {
-    Console(
-        "\r\nddCreateOneOltPortObjByName->malloc err! pstOltPortInformationOut = 0x%x, ulIndex = %d",
-        LowBits(copy.get()), index);
-    *pulOltPortTypeObjAddr = nullptr;
-    return kNoMemory;
-  }
-  const OltPortInformation* const saved = gstSupportedOltPortType.pOltPortTypeArray[index];
-  if (saved == nullptr) {
-    Console("\r\nddCreateOneOltPortObjByName err! pstOltPortInformationSaved = 0x%x, ulIndex = %d",
-            LowBits(saved), index);
-    return kEmptyPlace;  // kept as is: the output is untouched.
-  }
-  copy->ulPortType = saved->ulPortType;
-  copy->ulNameLen = saved->ulNameLen;
-  std::memcpy(copy->acName, saved->acName, saved->ulNameLen);
-  copy->ulSplittingRatio = saved->ulSplittingRatio;
-  copy->ulLink = 0;
-  *pulOltPortTypeObjAddr = copy.release();
-  return kOk;
+  return code;
 }

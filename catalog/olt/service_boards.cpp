@@ -1,14 +1,11 @@
 // The service boards: their loader, and their end.
-#include <algorithm>
 #include <cstdlib>
-#include <memory>
 
-#include "cfgfile/keys.h"
 #include "cfgfile/named_sections.h"
+#include "cfgfile/port_list.h"
+#include "cfgfile/port_owner.h"
 #include "common/codes.h"
-#include "common/memory.h"
 #include "common/messages.h"
-#include "common/numbers.h"
 #include "sys_context/olt.h"
 
 constinit SupportedBoardType gstSupportedBoardType = {};
@@ -49,68 +46,30 @@ int32_t FindMaxPonBoard() {
   return code;
 }
 
-constexpr KeyMessage kTypeUnreadable =
-    "\r\nddReadOneSupportedBoardInformation err! iResult = %d, strSectionFrameNameBuf = %s, Key = %s";
-constexpr KeyMessage kNameUnreadable =
-    "\r\nddReadOneSupportedBoardInformation err! iResult = %d, section = %s, key = %s";
-constexpr Message<uint32_t> kNameTooLong =
-    "\r\nddReadOneSupportedBoardInformation err! ulNameLen = %d";
-
-struct PortAdder {
-  int32_t (*add)(const char* file, const char* section, int32_t start, BoardInformation* board);
-  Message<const char*> failure;
+constexpr OwnerReader<BoardInformation, 2> kReader = {
+    .type_and_name =
+        {
+            .type_unreadable =
+                "\r\nddReadOneSupportedBoardInformation err! iResult = %d, strSectionFrameNameBuf = %s, Key = %s",
+            .no_memory =
+                "\r\nddReadOneSupportedBoardInformation->malloc err! pstBoardInformation = 0x%x",
+            .name_unreadable =
+                "\r\nddReadOneSupportedBoardInformation err! iResult = %d, section = %s, key = %s",
+            .name_too_long = "\r\nddReadOneSupportedBoardInformation err! ulNameLen = %d",
+        },
+    .type = &BoardInformation::ulType,
+    .adders =
+        {
+            {ddAddSupportedServePortToBoardObj,
+             "\r\nddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err! strBoardTypeSection = %s"},
+            {ddAddSupportedSpecialPortToBoardObj,
+             "\r\nddReadOneSupportedBoardInformation->ddAddSupportedSpecialPortToBoardObj err! strBoardTypeSection = %s"},
+        },
+    .release = ddFreeOneBoardAllObj,
+    .null_argument =
+        "\r\nddReadOneSupportedBoardInformation err! strFileName = 0x%x, strOltPonTypeSection = 0x%x, pOltPonTypeObjAddr = 0x%x",
+    .negative_start = "\r\nddReadOneSupportedBoardInformation err! iOffsetIn = %d",
 };
-constexpr PortAdder kPortAdders[] = {
-    {ddAddSupportedServePortToBoardObj,
-     "\r\nddReadOneSupportedBoardInformation->ddAddSupportedServePortToBoardObj err! strBoardTypeSection = %s"},
-    {ddAddSupportedSpecialPortToBoardObj,
-     "\r\nddReadOneSupportedBoardInformation->ddAddSupportedSpecialPortToBoardObj err! strBoardTypeSection = %s"},
-};
-
-int32_t AddAllPorts(const Source& source, const char* section, BoardInformation& board) {
-  for (const PortAdder& adder : kPortAdders) {
-    if (const int32_t code = adder.add(source.file(), section, source.start(), &board);
-        code != kOk) {
-      Report(Gate::kAlways, adder.failure, section);
-      return code;
-    }
-  }
-  return kOk;
-}
-
-struct FreeBoard {
-  void operator()(BoardInformation* board) const { ddFreeOneBoardAllObj(board); }
-};
-using OwnedBoard = std::unique_ptr<BoardInformation, FreeBoard>;
-
-int32_t ReadBoard(const Source& source, const char* section, OwnedBoard& board) {
-  Value type;
-  if (ReadKey(source, section, "Type", type, kTypeUnreadable) != kOk) {
-    return kKeyUnreadable;
-  }
-  board.reset(NewRecord<BoardInformation>().release());  // freed another way than records are
-  if (board == nullptr) {
-    Console("\r\nddReadOneSupportedBoardInformation->malloc err! pstBoardInformation = 0x%x",
-            LowBits(board.get()));
-    return kNoMemory;
-  }
-  board->ulType = ParseUnsigned(type.text);
-  const int32_t code =
-      ReadName(source, section, board->acName, board->ulNameLen, kNameUnreadable, kNameTooLong);
-  return code == kOk ? AddAllPorts(source, section, *board) : code;
-}
-
-// Releases a list of ports.
-// kept as is: of a full list the ports themselves are not released.
-void FreePorts(OltPortInformation** ports, uint32_t count, uint32_t limit) {
-  if (ports == nullptr) {
-    return;
-  }
-  if (count < limit) {
-    std::for_each(ports, ports + count, std::free);
-  }
-  std::free(ports);
-}
 
 }  // namespace
 }  // namespace sys_context
@@ -131,20 +90,7 @@ int32_t ddReadOneSupportedBoardInformation(const char* strFileName, const char* 
                                            int32_t iOffsetIn,
                                            BoardInformation** pBoardTypeObjAddr) {
   using namespace sys_context;
-  if (strFileName == nullptr || strBoardTypeSection == nullptr || pBoardTypeObjAddr == nullptr) {
-    Console(
-        "\r\nddReadOneSupportedBoardInformation err! strFileName = 0x%x, strOltPonTypeSection = 0x%x, pOltPonTypeObjAddr = 0x%x",
-        LowBits(strFileName), LowBits(strBoardTypeSection), LowBits(pBoardTypeObjAddr));
-    return kNullArgument;
-  }
-  if (iOffsetIn < 0) {
-    Console("\r\nddReadOneSupportedBoardInformation err! iOffsetIn = %d", iOffsetIn);
-    return kKeyUnreadable;
-  }
-  OwnedBoard board;
-  const int32_t code = ReadBoard(Source(strFileName, iOffsetIn), strBoardTypeSection, board);
-  *pBoardTypeObjAddr = code == kOk ? board.release() : nullptr;
-  return code;
+  return ReadOwner(kReader, strFileName, strBoardTypeSection, iOffsetIn, pBoardTypeObjAddr);
 }
 
 int32_t ddFreeOneBoardAllObj(BoardInformation* pstBoardInformation) {

@@ -266,6 +266,50 @@ TEST_F(Keys, NegativePositionsCannotBeSought) {
   EXPECT_EQ(source.start(), -1);
 }
 
+// ---- Messages that show other names --------------------------------------------------
+
+struct ShownRow {
+  const char* name;
+  KeyMessage message;
+  const char* console;
+};
+
+// What is looked up is not what is shown.
+TEST_F(Keys, AMessageMayShowAnotherSectionOrKey) {
+  const test::DefinitionFile file("[S]\nk=1\n[Other]\nj=2\nother=3\n");
+  constexpr ShownRow kRows[] = {
+      {"neither", KeyMessage("%d %s %s;"), "-2 S j;"},
+      {"the section", KeyMessage("%d %s %s;", "Other"), "-2 Other j;"},
+      {"the key", KeyMessage("%d %s %s;", nullptr, "other"), "-2 S other;"},
+      {"both", KeyMessage("%d %s %s;", "Other", "other"), "-2 Other other;"},
+      {"empty ones", KeyMessage("%d %s %s;", "", ""), "-2  ;"},
+  };
+  for (const ShownRow& row : kRows) {
+    SCOPED_TRACE(row.name);
+    Value value = Traces();
+    EXPECT_EQ(ReadKey(file.path(), "S", "j", value, row.message), -2);
+    EXPECT_EQ(console_.Text(), row.console);
+    EXPECT_TRUE(IsUntouched(value));
+    Source source(file.path(), 0);
+    EXPECT_EQ(ReadKeyAndMove(source, "S", "j", value, row.message), -2);
+    EXPECT_EQ(console_.Text(), row.console);
+    EXPECT_EQ(ReadKey(file.path(), "S", "k", value, row.message), 0);
+    EXPECT_STREQ(value.text, "1");
+    EXPECT_EQ(console_.Text(), "");
+  }
+}
+
+TEST_F(Keys, ANameMayBeReportedUnderAnotherKey) {
+  const test::DefinitionFile file("[S]\nSpeed=fast\n");
+  constexpr KeyMessage kSpeed("%d %s %s;", nullptr, "Speed");
+  char field[8] = {};
+  uint32_t length = 77;
+  EXPECT_EQ(ReadName(file.path(), "S", field, length, kSpeed, kTooLong), -31);
+  EXPECT_EQ(console_.Text(), "-2 S Speed;");
+  EXPECT_STREQ(field, "");
+  EXPECT_EQ(length, 77u);
+}
+
 // ---- Counts --------------------------------------------------------------------
 
 struct CountRow {

@@ -1,11 +1,15 @@
-// What the queries do with a table: finding a record, and finding a name.
+// What the queries do with a table: finding a record, finding a name, and copying the
+// record of a name.
 #include "common/catalog.h"
 
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include "support/faults.h"
 #include "support/tables.h"
 #include "support/text.h"
 
@@ -13,6 +17,7 @@ namespace {
 
 using std::string;
 using sys_context::FindRecord;
+using sys_context::Gate;
 using test::Hex;
 
 // ---- A record ------------------------------------------------------------------
@@ -183,6 +188,137 @@ TEST_F(NameSearch, NullArgumentsTouchNothing) {
   }
   EXPECT_EQ(is_supported, 77u);
   EXPECT_EQ(index, 78u);
+}
+
+// ---- A copy --------------------------------------------------------------------
+
+constexpr sys_context::CopyQuery Copying(Gate gate, bool empty_place_clears_output) {
+  return {
+      .gate = gate,
+      .last_index = 3,
+      .above_last_index_code = -103,
+      .empty_place_clears_output = empty_place_clears_output,
+      .null_argument = "null 0x%x 0x%x;",
+      .name_too_long = "long %d;",
+      .lookup_failed = "code %d, %s at %d;",
+      .not_supported = "%s is %d;",
+      .above_last_index = "%s at %d;",
+      .no_memory = "memory %d at %d;",
+      .empty_place = "empty %d at %d;",
+  };
+}
+
+struct Found {
+  int32_t code;
+  uint32_t is_supported;
+  uint32_t index;
+};
+Found found;        // what the lookup answers
+string looked_for;  // the name that it was asked for
+
+int32_t Find(const char* name, uint32_t* is_supported, uint32_t* index) {
+  looked_for = name;
+  *is_supported = found.is_supported;
+  *index = found.index;
+  return found.code;
+}
+
+struct CopyRow {
+  const char* name;
+  string asked;
+  Found found;
+  int32_t code;
+  string console = "";
+  int failing_allocation = 0;
+  bool empty_place_clears_output = true;
+  friend std::ostream& operator<<(std::ostream& out, const CopyRow& row) { return out << row.name; }
+};
+
+class NameCopy : public test::LibraryTest, public testing::WithParamInterface<CopyRow> {
+ protected:
+  void SetUp() override {
+    LibraryTest::SetUp();
+    looked_for = "nothing";
+  }
+
+  test::Console console_;
+  Named traces_ = {3, {'A', 'B', 0, '#', '#'}};
+  Named full_ = {5, "ABCD"};
+  Named beyond_ = {1, {0, '#', '#', '#', '#'}};
+  Named* places_[5] = {&traces_, nullptr, &full_, &beyond_, nullptr};
+};
+
+TEST_P(NameCopy, IsTheCallersOwn) {
+  found = GetParam().found;
+  for (const Gate gate : {Gate::kAlways, Gate::kDebug}) {
+    for (const int32_t debug : {0, 1}) {
+      ddDebugPrint = debug;
+      Named* copy = &full_;
+      test::Faults faults;
+      faults.allocations.FailFrom(GetParam().failing_allocation, 1);
+      EXPECT_EQ(CopyByName(Copying(gate, GetParam().empty_place_clears_output), Find, places_,
+                           GetParam().asked.c_str(), &copy),
+                GetParam().code);
+      EXPECT_EQ(console_.Text(), gate == Gate::kAlways || debug != 0 ? GetParam().console : "");
+      if (GetParam().code != 0) {
+        EXPECT_EQ(copy, GetParam().empty_place_clears_output ? nullptr : &full_);
+        EXPECT_TRUE(faults.blocks.empty());
+        continue;
+      }
+      EXPECT_EQ(looked_for, GetParam().asked);
+      ASSERT_EQ(faults.blocks.count(copy), 1u);
+      EXPECT_EQ(faults.blocks.size(), 1u);
+      const Named& saved = *places_[found.index];
+      Named expected = {saved.ulNameLen, ""};
+      std::memcpy(expected.acName, saved.acName, saved.ulNameLen);
+      EXPECT_EQ(copy->ulNameLen, expected.ulNameLen);
+      EXPECT_EQ(string(copy->acName, 5), string(expected.acName, 5));
+      std::free(copy);
+    }
+  }
+}
+
+const CopyRow kCopies[] = {
+    {"WithoutTheTracesBehindTheName", "AB", {0, 1, 0}, 0},
+    {"OfANameThatFillsTheField", "ABCD", {0, 1, 2}, 0},
+    {"FromTheLastIndex", "", {0, 1, 3}, 0},
+    {"NameTooLongForTheField", "ABCDE", {0, 1, 0}, -33, "long 5;"},
+    {"LookupFailed", "AB", {-5, 1, 2}, -5, "code -5, AB at 2;"},
+    {"NotSupported", "AB", {0, 0, 4}, -32, "AB is 0;"},
+    {"AboveTheLastIndex", "AB", {0, 1, 4}, -103, "AB at 4;"},
+    {"FarAboveTheLastIndex", "AB", {0, 1, 0xffffffff}, -103, "AB at -1;"},
+    {"NoMemory", "AB", {0, 1, 1}, -27, "memory 0 at 1;", 1},
+    {"EmptyPlace", "AB", {0, 1, 1}, -2, "empty 0 at 1;"},
+    {"EmptyPlaceThatLeavesTheOutput", "AB", {0, 1, 1}, -2, "empty 0 at 1;", 0, false},
+};
+INSTANTIATE_TEST_SUITE_P(Tables, NameCopy, testing::ValuesIn(kCopies),
+                         testing::PrintToStringParamName());
+
+// A lookup that a host puts in front of the library's may give such a record.
+TEST_F(NameCopy, OfALengthThatTheFieldCannotHold) {
+  full_ = {0xFFFFFFFFu, {'A', 'B', 'C', 'D', 'E'}};
+  found = {0, 1, 2};
+  Named* copy = nullptr;
+  ASSERT_EQ(CopyByName(Copying(Gate::kAlways, true), Find, places_, "ABCD", &copy), 0);
+  EXPECT_EQ(copy->ulNameLen, 0xFFFFFFFFu);
+  EXPECT_EQ(string(copy->acName, 5), "ABCDE");
+  std::free(copy);
+}
+
+TEST_F(NameCopy, NullArgumentsTouchNothing) {
+  const char* const name = "ABCDE";  // looked at later only
+  const char* const no_name = nullptr;
+  Named* copy = &full_;
+  Named** const no_output = nullptr;
+  constexpr sys_context::CopyQuery kCopying = Copying(Gate::kAlways, true);
+  EXPECT_EQ(CopyByName(kCopying, Find, places_, no_name, &copy), -2);
+  EXPECT_EQ(console_.Text(), "null 0x0 " + Hex(&copy) + ";");
+  EXPECT_EQ(CopyByName(kCopying, Find, places_, name, no_output), -2);
+  EXPECT_EQ(console_.Text(), "null " + Hex(name) + " 0x0;");
+  EXPECT_EQ(CopyByName(kCopying, Find, places_, no_name, no_output), -2);
+  EXPECT_EQ(console_.Text(), "null 0x0 0x0;");
+  EXPECT_EQ(copy, &full_);
+  EXPECT_EQ(looked_for, "nothing");
 }
 
 }  // namespace
