@@ -2,10 +2,22 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
+#include "common/messages.h"
 #include "sys_context/platform.h"
 
 namespace sys_context {
+
+// Writes a text of a table to the terminal.
+template <typename... Values>
+void Write(void* vty, const Message<Values...>& text, std::type_identity_t<Values>... values) {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+#pragma GCC diagnostic ignored "-Wformat-security"
+  vty_out(vty, text.text(), values...);
+#pragma GCC diagnostic pop
+}
 
 // Lets other tasks run before every `period`th row of a long listing.
 inline void PauseBeforeRow(uint32_t row, uint32_t period) {
@@ -15,7 +27,7 @@ inline void PauseBeforeRow(uint32_t row, uint32_t period) {
   }
 }
 
-// The two blank lines behind the last row.
+// Ends the last row, and adds a blank line.
 inline void EndListing(void* vty) {
   vty_out(vty, "\r\n");
   vty_out(vty, "\r\n");

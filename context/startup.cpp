@@ -8,6 +8,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 constinit int32_t ddDebugPrint = 0;
 
@@ -42,6 +43,16 @@ constexpr Loader kLoaders[] = {
      "\r\nddParseContextFile->ddReadAllSupportedBoardInformation err! iResult = %d, strDeviceDefFilePath = %s"},
     {ddReadFrameInformation,
      "\r\nddParseContextFile->ddReadFrameInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedOnuPonInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedOnuPonInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedOnuLanInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedOnuLanInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedOnuPotsInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedOnuPotsInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedOnuSpecialPortInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedOnuSpecialPortInformation err! iResult = %d, strDeviceDefFilePath = %s"},
+    {ddReadAllSupportedOnuInformation,
+     "\r\nddParseContextFile->ddReadAllSupportedOnuInformation err! iResult = %d, strDeviceDefFilePath = %s"},
 };
 
 // Forgets what the tables hold; nothing is released.
@@ -53,6 +64,11 @@ void ClearTables() {
   gstSupportedOltPortType = {};
   gstSupportedBoardType = {};
   gstSupportedMainBoardType = {};
+  gstSupportedOnuPonType = {};
+  gstSupportedOnuLanType = {};
+  gstSupportedOnuPotsType = {};
+  gstSupportedOnuSpecialPortType = {};
+  gstSupportedOnuType = {};
 }
 
 // Proves that the memory is there, by touching all of it. The call goes through a

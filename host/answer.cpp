@@ -8,6 +8,7 @@ namespace sysctx {
 namespace {
 
 using Numbers = std::span<const std::optional<int64_t>>;
+using Outputs = std::span<const Output>;
 
 constexpr const char* kUntouched = "(untouched)";
 
@@ -44,20 +45,29 @@ std::string DescribeText(const std::optional<std::string>& text) {
   return shown.empty() ? "" : " " + shown;
 }
 
-// The number that tells how many a list has: the next one behind it.
-std::optional<int64_t> CountBehind(const Output* output, const Output* end) {
-  output =
-      std::find_if(output, end, [](const Output& o) { return o.kind == Output::Kind::kNumber; });
-  return output == end ? std::nullopt : output->numbers.at(0);
+bool IsNumber(const Output& output) {
+  return output.kind == Output::Kind::kNumber;
+}
+
+// The number that tells how many a list has: the next one behind it or else in front.
+std::optional<int64_t> CountOf(const Output& list, Outputs outputs) {
+  const auto place = static_cast<size_t>(&list - outputs.data());
+  const Outputs behind = outputs.subspan(place);
+  if (const auto count = std::ranges::find_if(behind, IsNumber); count != behind.end()) {
+    return count->numbers.at(0);
+  }
+  const Outputs in_front = outputs.first(place);
+  const auto count = std::find_if(in_front.rbegin(), in_front.rend(), IsNumber);
+  return count == in_front.rend() ? std::nullopt : count->numbers.at(0);
 }
 
 // What stands behind the "=": nothing for an empty list or text.
-std::string DescribeOutput(const Output& output, const Output* end) {
+std::string DescribeOutput(const Output& output, Outputs outputs) {
   switch (output.kind) {
     case Output::Kind::kNumber:
       return " " + DescribeNumber(output.numbers.at(0));
     case Output::Kind::kList:
-      return DescribeList(output.numbers, CountBehind(&output, end));
+      return DescribeList(output.numbers, CountOf(output, outputs));
     case Output::Kind::kText:
       break;
   }
@@ -68,9 +78,8 @@ std::string DescribeOutput(const Output& output, const Output* end) {
 
 std::string DescribeAnswer(const Answer& answer) {
   std::string text = std::string(answer.label) + " = " + std::to_string(answer.value) + "\n";
-  const Output* end = answer.outputs.data() + answer.outputs.size();
   for (const Output& output : answer.outputs) {
-    text += std::string(output.name) + " =" + DescribeOutput(output, end) + "\n";
+    text += std::string(output.name) + " =" + DescribeOutput(output, answer.outputs) + "\n";
   }
   return text;
 }

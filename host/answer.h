@@ -26,7 +26,8 @@ struct Answer {
 };
 
 // One line each for the value and every output. A list ends where the number that
-// follows it says or, when that was left untouched, behind its last number written.
+// follows it says (without one: the number in front of it) or, when that was left
+// untouched, behind its last number written.
 std::string DescribeAnswer(const Answer& answer);
 
 // 0, or the low byte of a negative value.

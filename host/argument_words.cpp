@@ -173,4 +173,13 @@ std::string DescribeRecord(const PortMap& map) {
   return std::string(NameIn(map.acBoardName)) + ", in no main board";
 }
 
+std::string DescribeRecord(const OltPortInformation& port_type) {
+  return Format("%s, type %u, splitting ratio %u", std::string(NameIn(port_type.acName)).c_str(),
+                port_type.ulPortType, port_type.ulSplittingRatio);
+}
+
+std::string DescribeRecord(const OnuPortTypeInformation& port_type) {
+  return Format("%s, type %u", std::string(NameIn(port_type.acName)).c_str(), port_type.ulPortType);
+}
+
 }  // namespace sysctx

@@ -8,6 +8,7 @@
 
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace sysctx {
 
@@ -41,5 +42,7 @@ struct RecordWord<PortMap> {
 // Which record it is, and its sizes.
 std::string DescribeRecord(const MainBoardInformation& board);
 std::string DescribeRecord(const PortMap& map);
+std::string DescribeRecord(const OltPortInformation& port_type);
+std::string DescribeRecord(const OnuPortTypeInformation& port_type);
 
 }  // namespace sysctx

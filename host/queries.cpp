@@ -8,6 +8,7 @@ const std::vector<QueryFamily>& AllQueries() {
       {"context", ContextQueries()},
       {"olt", OltQueries()},
       {"frame", FrameQueries()},
+      {"onu", OnuQueries()},
   };
   return families;
 }

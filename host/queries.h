@@ -18,5 +18,6 @@ const std::vector<QueryFamily>& AllQueries();
 std::vector<Query> ContextQueries();
 std::vector<Query> OltQueries();
 std::vector<Query> FrameQueries();
+std::vector<Query> OnuQueries();
 
 }  // namespace sysctx

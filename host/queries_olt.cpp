@@ -10,6 +10,8 @@ std::vector<Query> OltQueries() {
   return {
       QUERY(ddIsOltPortTypeSupportedByName, TextIn("strOltPortTypeName"), Out("pIsSupported"),
             Out("pIndex")),
+      QUERY(ddCreateOneOltPortObjByName, TextIn("strOltPortTypeName"),
+            CopyOut("pulOltPortTypeObjAddr")),
       QUERY(ddGetOltPortSplittingRatioByType, In("ulPortType"), Out("pulSplittingRatio")),
       QUERY(ddGetMainBoardNameByType, In("ulType"), TextOut("pcBoardName")),
       QUERY(ddGetMainBoardTypeByName, TextIn("pcBoardName"), Out("pulBoardType")),

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <optional>
@@ -41,13 +42,19 @@ struct RecordIn : Role {  // one of those that RecordWord finds
 struct Out : Role {  // a number
   using Role::Role;
 };
-struct List : Role {  // an array; the next Out is its count
+struct InOut : Role {  // a number that the query may change
+  using Role::Role;
+};
+struct List : Role {  // an array; the next Out is its count, or an InOut in front of it
   using Role::Role;
 };
 struct TextOut : Role {  // a buffer of kTextSize bytes
   using Role::Role;
 };
 struct RecordOut : Role {  // one of those that DescribeRecord knows
+  using Role::Role;
+};
+struct CopyOut : Role {  // a copy of such a record, which the asker releases
   using Role::Role;
 };
 
@@ -154,6 +161,21 @@ class Argument<Out, T*> {
 };
 
 template <Number T>
+class Argument<InOut, T*> {
+ public:
+  static constexpr Parameter Describe(InOut role) { return {role.name, true}; }
+  Argument(InOut role, const std::string& word) : name_(role.name) {
+    numbers_.fill(Argument<In, T>(In(role.name), word).Pass(0));
+  }
+  T* Pass(size_t round) { return &numbers_[round]; }
+  Output Result() const { return {Output::Kind::kNumber, name_, {numbers_[0]}, {}}; }
+
+ private:
+  const char* name_;
+  std::array<T, kFillings.size()> numbers_;
+};
+
+template <Number T>
 class Argument<List, T*> {
  public:
   static constexpr Parameter Describe(List role) { return {role.name, false}; }
@@ -214,6 +236,26 @@ class Argument<RecordOut, T**> {
   OutputStorage<T*> record_ = OutputStorage<T*>(1);
 };
 
+// A copy is made in both calls, or in none.
+template <typename T>
+class Argument<CopyOut, T**> {
+ public:
+  static constexpr Parameter Describe(CopyOut role) { return {role.name, false}; }
+  explicit Argument(CopyOut role) : copies_(RecordOut(role.name)) {}
+  T** Pass(size_t round) { return copies_.Pass(round); }
+  Output Result() const { return copies_.Result(); }
+  void Release() {
+    if (Result().text) {
+      for (size_t round = 0; round < kFillings.size(); ++round) {
+        free(*Pass(round));
+      }
+    }
+  }
+
+ private:
+  Argument<RecordOut, T**> copies_;
+};
+
 // ---- Rows --------------------------------------------------------------------
 
 // Makes arguments in their order; inputs take the next word.
@@ -244,20 +286,39 @@ Answer Ask(const char* label, Function function, std::tuple<Arguments...> argume
   answer.label = label;
   answer.console = CaptureConsole([&] { answer.value = call(0); });
   CaptureConsole([&] { call(1); });
-  const auto add = [&](const auto& argument) {
+  const auto add = [&](auto& argument) {
     if constexpr (requires { argument.Result(); }) {
       answer.outputs.push_back(argument.Result());
     }
+    if constexpr (requires { argument.Release(); }) {
+      argument.Release();
+    }
   };
-  std::apply([&](const auto&... each) { (add(each), ...); }, arguments);
+  std::apply([&](auto&... each) { (add(each), ...); }, arguments);
   return answer;
 }
 
-// There is an Out behind every List.
+// There is an Out behind every List, or an InOut in front.
 template <typename... Roles>
 consteval bool ListsAreCounted() {
+  struct Kind {
+    bool is_list;
+    bool is_out;
+    bool is_in_out;
+  };
+  const std::array<Kind, sizeof...(Roles)> kinds = {Kind{
+      std::is_same_v<Roles, List>, std::is_same_v<Roles, Out>, std::is_same_v<Roles, InOut>}...};
+  bool has_count = false;
   bool is_open = false;
-  ((is_open = std::is_same_v<Roles, List> || (is_open && !std::is_same_v<Roles, Out>)), ...);
+  for (const Kind& kind : kinds) {
+    if (kind.is_list && !has_count) {
+      is_open = true;
+    } else if (kind.is_out) {
+      is_open = false;
+    } else if (kind.is_in_out) {
+      has_count = true;
+    }
+  }
   return !is_open;
 }
 

@@ -20,6 +20,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 #include "sys_context/platform.h"
 
 namespace sysctx {
@@ -58,14 +59,20 @@ std::string DescribeTables() {
   return Format(
       "loaded: %u versions, %u modules, %u system functions\n"
       "loaded: %u OLT port types, %u main boards, %u service boards\n"
-      "loaded: frame %s, %u real slots, %u logic ports, %u type-2 logic ports\n",
+      "loaded: frame %s, %u real slots, %u logic ports, %u type-2 logic ports\n"
+      "loaded: ONU port types: %u PON, %u LAN, %u POTS, %u special; %u ONU types\n",
       gstVersionInformation.ulSupportedSoftVerNum, gstModuleTypeList.ulModuleTypeNum,
       gstSysSupportFuncType.ulSupportedSysFunctionTypeNum,
       gstSupportedOltPortType.ulSupportedOltPortTypeNum,
       gstSupportedMainBoardType.ulSupportedBoardTypeNum,
       gstSupportedBoardType.ulSupportedBoardTypeNum,
       gstFrame.ulNameLen == 0 ? "(none)" : gstFrame.acName, gstFrame.stRealSlot.ulSlotAmount,
-      gstFrame.ulSwitchChipLogicPortNum, gstFrame.ulType2SwitchChipLogicPortNum);
+      gstFrame.ulSwitchChipLogicPortNum, gstFrame.ulType2SwitchChipLogicPortNum,
+      gstSupportedOnuPonType.ulSupportedOnuPonTypeNum,
+      gstSupportedOnuLanType.ulSupportedOnuLanTypeNum,
+      gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum,
+      gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum,
+      gstSupportedOnuType.ulSupportedOnuTypeNum);
 }
 
 std::string DescribeModules() {

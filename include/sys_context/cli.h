@@ -11,6 +11,7 @@
 
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 #include "sys_context/platform.h"
 
 SYS_CONTEXT_BEGIN
@@ -33,8 +34,18 @@ extern SYS_CONTEXT_API struct CommandRecord ddShowMainBoardInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowOltPortInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowAllBoardInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowFrameInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowOnuPonInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowOnuLanInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowOnuPotsInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowOnuSpecialPortInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowAllSupportedOnuType_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowOneSupportedOnuInfo_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowAllSupportedOnu_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowAllDevice_CMD;
 
-/* Their handlers. The show commands take no arguments and return 0. */
+/* Their handlers, which return 0. ddShowOneSupportedOnuInfo_Func takes the index from its
+ * first argument, a decimal text; without one, or without digits, it is 0. The others
+ * ignore their arguments. */
 SYS_CONTEXT_API int32_t ddShowVersionInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
                                                char** argv);
 SYS_CONTEXT_API int32_t ddShowAllModuleInfo_Func(struct CommandRecord* self, void* vty,
@@ -48,6 +59,22 @@ SYS_CONTEXT_API int32_t ddShowOltPortInfo_Func(struct CommandRecord* self, void*
 SYS_CONTEXT_API int32_t ddShowAllBoardInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
                                                 char** argv);
 SYS_CONTEXT_API int32_t ddShowFrameInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                             char** argv);
+SYS_CONTEXT_API int32_t ddShowOnuPonInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                              char** argv);
+SYS_CONTEXT_API int32_t ddShowOnuLanInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                              char** argv);
+SYS_CONTEXT_API int32_t ddShowOnuPotsInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                               char** argv);
+SYS_CONTEXT_API int32_t ddShowOnuSpecialPortInfo_Func(struct CommandRecord* self, void* vty,
+                                                      int32_t argc, char** argv);
+SYS_CONTEXT_API int32_t ddShowAllSupportedOnuType_Func(struct CommandRecord* self, void* vty,
+                                                       int32_t argc, char** argv);
+SYS_CONTEXT_API int32_t ddShowOneSupportedOnuInfo_Func(struct CommandRecord* self, void* vty,
+                                                       int32_t argc, char** argv);
+SYS_CONTEXT_API int32_t ddShowAllSupportedOnu_Func(struct CommandRecord* self, void* vty,
+                                                   int32_t argc, char** argv);
+SYS_CONTEXT_API int32_t ddShowAllDevice_Func(struct CommandRecord* self, void* vty, int32_t argc,
                                              char** argv);
 
 /* ---- Printers ------------------------------------------------------------ */
@@ -89,6 +116,31 @@ SYS_CONTEXT_API int32_t ddPrintFrameInfomation(void* vty);
 /* One class of slots. -2 without one; -4: more than 100 slots. */
 SYS_CONTEXT_API int32_t ddPrintSlotClassInformation(void* vty,
                                                     const SlotClassInformation* slotClass);
+
+/* The port types of one catalog. Yield the processor for two ticks before every
+ * sixteenth row. -14: more than 30 types; -10: no list; -2: an empty place, which ends
+ * the listing. */
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuPonInfomation(void* vty);
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuLanInfomation(void* vty);
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuPotsInfomation(void* vty);
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuSpecialPortInfomation(void* vty);
+
+/* A line for each ONU type; empty places are passed over. Yields the processor for two
+ * ticks before every eighth. -21: more than 200 types; -10: no list. */
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuTypeBaseInfomation(void* vty);
+
+/* The ONU type at a place of the list, from 0, with its ports. An empty list is said to
+ * be empty, whatever the place. -21: more than 200 types, or a place behind the last one;
+ * -10: no list; -2: the place is empty; -14: more ports than an ONU can have. */
+SYS_CONTEXT_API int32_t ddPrintOneSupportedOnuInfomation(uint32_t ulOnuIndex, void* vty);
+
+/* A line for each ONU type, then each with its ports; empty places are passed over. -21:
+ * more than 200 types; -10: no list. */
+SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuTypeInfomation(void* vty);
+
+/* Every table. -2 without a terminal. A table that cannot be shown says so in its
+ * place. */
+SYS_CONTEXT_API int32_t ddPrintAllContextInformation(void* vty);
 
 SYS_CONTEXT_END
 

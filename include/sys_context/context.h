@@ -2,8 +2,8 @@
  * Start-up, software versions, module types and system functions.
  *
  * The host calls ddInit once, before anybody asks a query; it reads
- * "/mnt/work/device_definition.ini" into the tables below and into those of olt.h
- * and frame.h.
+ * "/mnt/work/device_definition.ini" into the tables below and into those of olt.h,
+ * frame.h and onu.h.
  * Tables stay for the life of the process and belong to the library; hosts may
  * read and fill them.
  */

@@ -1,10 +1,10 @@
 /*
  * What the host provides: the functions and the variable that libsys_context
  * uses on the control card. A program that links the library defines all of
- * them, with C linkage; the library of today calls only the shell, the module
- * framework, the task delay and, but for ONU types, the equipment facts. The library also
- * calls the C library by name (fopen, malloc, printf, ...), and a host may put its
- * own in front of those.
+ * them, with C linkage; the library of today does not call the second way to install
+ * a command, the platform log, the flash store, the decompression, the FTP upload, the
+ * address checks and get_valid_onu_type. The library also calls the C library by name (fopen,
+ * malloc, printf, ...), and a host may put its own in front of those.
  *
  * Strings and buffers given to the host are valid during the call only, but
  * for command records and module names, which stay for ever.
@@ -113,7 +113,8 @@ SYS_CONTEXT_API int32_t get_valid_onu_type(uint32_t, uint32_t, uint32_t);
 
 /* Asked about ONU types that the definition file does not hold. All return 0
  * on success and write their result through the last pointer. Ports count from
- * 1. The last function tells the largest LAN port count of all types. */
+ * 1. The last function tells the largest LAN port count of all types; what it returns is
+ * ignored. */
 SYS_CONTEXT_API int32_t cs_get_onu_pon_num_by_type(uint32_t type, uint32_t* result);
 SYS_CONTEXT_API int32_t cs_get_onu_pon_port_type_by_type(uint32_t type, uint32_t port,
                                                          uint32_t* result);

@@ -16,9 +16,14 @@ class CommandInit : public test::LibraryTest {
   // All records into node 10, in the order of the command table.
   static void ExpectInstalled() {
     CommandRecord* const expected[] = {
-        &ddShowVersionInfo_CMD,   &ddShowAllModuleInfo_CMD, &ddShowSysSupportFuncInfo_CMD,
-        &ddShowMainBoardInfo_CMD, &ddShowOltPortInfo_CMD,   &ddShowAllBoardInfo_CMD,
-        &ddShowFrameInfo_CMD,
+        &ddShowVersionInfo_CMD,         &ddShowAllModuleInfo_CMD,
+        &ddShowSysSupportFuncInfo_CMD,  &ddShowMainBoardInfo_CMD,
+        &ddShowOltPortInfo_CMD,         &ddShowAllBoardInfo_CMD,
+        &ddShowFrameInfo_CMD,           &ddShowOnuPonInfo_CMD,
+        &ddShowOnuLanInfo_CMD,          &ddShowOnuPotsInfo_CMD,
+        &ddShowOnuSpecialPortInfo_CMD,  &ddShowAllSupportedOnuType_CMD,
+        &ddShowOneSupportedOnuInfo_CMD, &ddShowAllSupportedOnu_CMD,
+        &ddShowAllDevice_CMD,
     };
     const std::vector<FakePlatform::Installed>& installed = FakePlatform::Get().installed;
     ASSERT_EQ(installed.size(), std::size(expected));
@@ -144,6 +149,11 @@ TEST_F(CommandInit, ReadsNoTableAndNoFile) {
   gstSupportedMainBoardType.ulSupportedBoardTypeNum = 0xffffffff;
   gstSupportedBoardType.ulSupportedBoardTypeNum = 0xffffffff;
   gstFrame.ulSwitchChipLogicPortNum = 0xffffffff;
+  gstSupportedOnuPonType.ulSupportedOnuPonTypeNum = 0xffffffff;
+  gstSupportedOnuLanType.ulSupportedOnuLanTypeNum = 0xffffffff;
+  gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum = 0xffffffff;
+  gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum = 0xffffffff;
+  gstSupportedOnuType.ulSupportedOnuTypeNum = 0xffffffff;
   EXPECT_EQ(ddCmdInit(0, 0, 0), 0);
   EXPECT_EQ(FakePlatform::Get().terminal, "");
   EXPECT_TRUE(FakePlatform::Get().asked.empty());

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "cli/frame_printer_test.h"
+#include "cli/report_texts.h"
+#include "support/text.h"
 
 namespace {
 
@@ -21,6 +23,7 @@ struct RecordRow {
   void (*corrupt)();       // spoils the table that the command shows
   string empty_listing;    // what it shows of the table before any load
   string corrupt_listing;  // and of the spoilt one
+  bool needs_terminal = false;
   friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
     return out << row.name;
   }
@@ -63,14 +66,17 @@ TEST_P(CommandRecords, LeaveTheShellsFieldsZero) {
   }
 }
 
+// They are no constants, and their handlers look at none of the shell's fields.
 TEST_P(CommandRecords, CanBeWrittenByTheShell) {
   CommandRecord& record = *GetParam().record;
   const CommandRecord before = record;
   for (void*& word : record.host) {
     word = &record;
   }
-  EXPECT_EQ(record.host[7], &record);
+  int terminal = 0;
+  EXPECT_EQ(record.func(&record, &terminal, 0, nullptr), 0);
   record = before;
+  EXPECT_EQ(Platform().terminal, GetParam().empty_listing);
 }
 
 TEST_P(CommandRecords, HaveOneHelpLinePerWord) {
@@ -92,11 +98,25 @@ TEST_P(CommandRecords, AreDoneWithACorruptTableToo) {
   EXPECT_EQ(console_.Text(), "");
 }
 
-TEST_P(CommandRecords, NeedNothingButATerminal) {
-  test::FakePlatform::Reset();
-  EXPECT_EQ(GetParam().handler(nullptr, nullptr, 0, nullptr), 0);
+TEST_P(CommandRecords, NeedNoArguments) {
+  int terminal = 0;
+  EXPECT_EQ(GetParam().handler(nullptr, &terminal, 0, nullptr), 0);
   EXPECT_EQ(Platform().terminal, GetParam().empty_listing);
-  EXPECT_EQ(Platform().terminals_used.front(), nullptr);
+  ASSERT_FALSE(Platform().terminals_used.empty());
+  EXPECT_EQ(Platform().terminals_used.front(), &terminal);
+}
+
+// All hand on what they are given, but the report, which shows nothing then.
+TEST_P(CommandRecords, AreDoneWithoutATerminalToo) {
+  EXPECT_EQ(GetParam().handler(nullptr, nullptr, 0, nullptr), 0);
+  if (GetParam().needs_terminal) {
+    EXPECT_EQ(Platform().terminal, "");
+    EXPECT_TRUE(Platform().terminals_used.empty());
+  } else {
+    EXPECT_EQ(Platform().terminal, GetParam().empty_listing);
+    ASSERT_FALSE(Platform().terminals_used.empty());
+    EXPECT_EQ(Platform().terminals_used.front(), nullptr);
+  }
 }
 
 const RecordRow kRecords[] = {
@@ -176,6 +196,92 @@ const RecordRow kRecords[] = {
                             "\r\nddPrintFrameInfomation->ddGetCardNameByType err! iResult = -5, "
                             "ulSwitchChipLogicPortNumIndex = 1, ulSLotOut = 0, ulBoardType = 0"
                             "\r\n\r\nulType2SwitchChipLogicPortNum =  0\r\n\r\n")},
+    {.name = "ddShowOnuPonInfo_CMD",
+     .record = &ddShowOnuPonInfo_CMD,
+     .command = "show context onu_pon",
+     .handler = ddShowOnuPonInfo_Func,
+     .help = "show info.\ncontext info.\nonu pon info.\n",
+     .corrupt = [] { gstSupportedOnuPonType.ulSupportedOnuPonTypeNum = 31; },
+     .empty_listing = "\r\nddPrintAllSupportedOnuPonInfomation err! pOnuPonTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedOnuPonInfomation err! ulSupportedOnuPonTypeNum = 31, "
+         "MAX_ONU_PON_TYPE_NUM = 30"},
+    {.name = "ddShowOnuLanInfo_CMD",
+     .record = &ddShowOnuLanInfo_CMD,
+     .command = "show context onu_lan",
+     .handler = ddShowOnuLanInfo_Func,
+     .help = "show info.\ncontext info.\nonu lan info.\n",
+     .corrupt = [] { gstSupportedOnuLanType.ulSupportedOnuLanTypeNum = 31; },
+     .empty_listing = "\r\nddPrintAllSupportedOnuLanInfomation err! pOnuLanTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedOnuLanInfomation err! ulSupportedOnuLanTypeNum = 31, "
+         "MAX_ONU_LAN_TYPE_NUM = 30"},
+    {.name = "ddShowOnuPotsInfo_CMD",
+     .record = &ddShowOnuPotsInfo_CMD,
+     .command = "show context onu_pots",
+     .handler = ddShowOnuPotsInfo_Func,
+     .help = "show info.\ncontext info.\nonu pots info.\n",
+     .corrupt = [] { gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum = 31; },
+     .empty_listing = "\r\nddPrintAllSupportedOnuPotsInfomation err! pOnuPotsTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedOnuPotsInfomation err! ulSupportedOnuPotsTypeNum = 31, "
+         "MAX_ONU_POTS_TYPE_NUM = 30"},
+    {.name = "ddShowOnuSpecialPortInfo_CMD",
+     .record = &ddShowOnuSpecialPortInfo_CMD,
+     .command = "show context onu_special_port",
+     .handler = ddShowOnuSpecialPortInfo_Func,
+     .help = "show info.\ncontext info.\nonu special port info.\n",
+     .corrupt = [] { gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum = 31; },
+     .empty_listing =
+         "\r\nddIsOnuSpecialPortTypeSupportedByName err! pOnuSpecialPortTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\ndebug_ddPrintAllSupportedOnuSpecialPortInfomation err! "
+         "ulSupportedOnuSpecialPortTypeNum = 31, MAX_ONU_SPECIAL_PORT_TYPE_NUM = 30"},
+    {.name = "ddShowAllSupportedOnuType_CMD",
+     .record = &ddShowAllSupportedOnuType_CMD,
+     .command = "show context onu_type_all",
+     .handler = ddShowAllSupportedOnuType_Func,
+     .help = "show info.\ncontext info.\nall onu type info.\n",
+     .corrupt = [] { gstSupportedOnuType.ulSupportedOnuTypeNum = 201; },
+     .empty_listing = "\r\nddPrintAllSupportedOnuTypeBaseInfomation, ulSupportedOnuTypeNum = 0, "
+                      "pOnuTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedOnuTypeBaseInfomation err! ulSupportedOnuTypeNum = 201, "
+         "MAX_ONU_TYPE_NUM = 200"},
+    {.name = "ddShowOneSupportedOnuInfo_CMD",
+     .record = &ddShowOneSupportedOnuInfo_CMD,
+     .command = "show context onu_detail index <indexno>",
+     .handler = ddShowOneSupportedOnuInfo_Func,
+     .help = "show info.\ncontext info.\nall onu type info.\nindex info.\n"
+             "please input index no 0~200.\n",
+     .corrupt = [] { gstSupportedOnuType.ulSupportedOnuTypeNum = 201; },
+     .empty_listing = "\r\nddPrintOneSupportedOnuInfomation, ulSupportedOnuTypeNum = 0, "
+                      "pOnuTypeArray = 0x0",
+     .corrupt_listing = "\r\nddPrintOneSupportedOnuInfomation err! ulSupportedOnuTypeNum = 201, "
+                        "MAX_ONU_TYPE_NUM = 200"},
+    {.name = "ddShowAllSupportedOnu_CMD",
+     .record = &ddShowAllSupportedOnu_CMD,
+     .command = "show context onu_all",
+     .handler = ddShowAllSupportedOnu_Func,
+     .help = "show info.\ncontext info.\nall onu detail info.\n",
+     .corrupt = [] { gstSupportedOnuType.ulSupportedOnuTypeNum = 201; },
+     .empty_listing = "\r\nddPrintOneSupportedOnuInfomation, ulSupportedOnuTypeNum = 0, "
+                      "pOnuTypeArray = 0x0",
+     .corrupt_listing =
+         "\r\nddPrintAllSupportedOnuTypeInfomation err! ulSupportedOnuTypeNum = 201, "
+         "MAX_ONU_TYPE_NUM = 200"},
+    {.name = "ddShowAllDevice_CMD",
+     .record = &ddShowAllDevice_CMD,
+     .command = "show context device_all",
+     .handler = ddShowAllDevice_Func,
+     .help = "show info.\ncontext info.\nall devices info.\n",
+     .corrupt = [] { gstSupportedOltPortType.ulSupportedOltPortTypeNum = 31; },
+     .empty_listing = test::EmptyReport(),
+     .corrupt_listing = test::Replaced(
+         test::EmptyReport(),
+         "\r\nddPrintAllSupportedOltPortInfomation err! pOltPortTypeArray = 0x0",
+         "\r\nddPrintAllSupportedOltPortInfomation err! ulSupportedOltPortTypeNum = 31"),
+     .needs_terminal = true},
 };
 INSTANTIATE_TEST_SUITE_P(Cli, CommandRecords, testing::ValuesIn(kRecords),
                          testing::PrintToStringParamName());

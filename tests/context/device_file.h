@@ -1,6 +1,8 @@
 // A definition file in the place where start-up looks for it.
 #pragma once
 
+#include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -11,7 +13,37 @@ namespace test {
 
 constexpr char kDeviceFile[] = "/mnt/work/device_definition.ini";
 
-// A small, complete definition file: a section for each loader, in their order.
+// What start-up loads, in its order. Before a step, so many are done.
+enum Step : size_t {
+  kVersions,
+  kModules,
+  kFunctions,
+  kPortTypes,
+  kMainBoards,
+  kBoards,
+  kFrame,
+  kOnuPonTypes,
+  kOnuLanTypes,
+  kOnuPotsTypes,
+  kOnuSpecialPortTypes,
+  kOnus,
+  kSteps
+};
+constexpr const char* kLoaderNames[] = {"ddReadVersionInformation",
+                                        "ddReadAllModuleInformation",
+                                        "ddReadSysSupportFuncInformation",
+                                        "ddReadAllSupportedOltPortInformation",
+                                        "ddReadAllSupportedMainBoardInformation",
+                                        "ddReadAllSupportedBoardInformation",
+                                        "ddReadFrameInformation",
+                                        "ddReadAllSupportedOnuPonInformation",
+                                        "ddReadAllSupportedOnuLanInformation",
+                                        "ddReadAllSupportedOnuPotsInformation",
+                                        "ddReadAllSupportedOnuSpecialPortInformation",
+                                        "ddReadAllSupportedOnuInformation"};
+static_assert(std::size(kLoaderNames) == kSteps);
+
+// A small, complete definition file: a part for each step.
 constexpr std::string_view kVersionPart = "[Version]\nSupportedSoftwareVer=KT2200V4.0|KT2200V4.1\n";
 constexpr std::string_view kModulePart =
     "[ModuleTypeList]\nModuleNum=2\nModule1=S1\nModule2=S2\n"
@@ -46,21 +78,44 @@ constexpr std::string_view kFramePart =
     "Type2SwitchChipLogicPortNum=2\nType2SwitchChipLogicPort1=1,3,0,5,0\n"
     "Type2SwitchChipLogicPort2=2,0,1,6,1\n";
 
-// The parts of the first `loaders` loaders.
-inline std::string FileFor(size_t loaders) {
+constexpr std::string_view kOnuPonPart =
+    "[SupportedOnuPonType]\nSupportedOnuPonTypeNum=1\nSupportedOnuPonType1=OnuPon\n"
+    "[OnuPon]\nType=2\nName=GPON\n";
+constexpr std::string_view kOnuLanPart =
+    "[SupportedOnuLanType]\nSupportedOnuLanTypeNum=1\nSupportedOnuLanType1=OnuLan\n"
+    "[OnuLan]\nType=3\nName=FE\n";
+constexpr std::string_view kOnuPotsPart =
+    "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum=1\nSupportedOnuPotsType1=OnuPots\n"
+    "[OnuPots]\nType=4\nName=FXS\n";
+constexpr std::string_view kOnuSpecialPortPart =
+    "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum=1\n"
+    "SupportedOnuSpecialPortType1=OnuSpecial\n"
+    "[OnuSpecial]\nType=5\nName=CATV\n";
+constexpr std::string_view kOnuPart =
+    "[SupportedOnuType]\nSupportedOnuTypeNum=2\nSupportedOnuType1=U1\nSupportedOnuType2=U2\n"
+    "[U1]\nType=6001\nName=KT-G101\nPonNum=1\nNameKeyPon1=GPON\n"
+    "LanPortNum=1\nNameKeyLanPort1=FE\nPotsPortNum=1\nNameKeyPotsPort1=FXS\n"
+    "SpecialPortNum=1\nNameKeySpecialPort1=CATV\n"
+    "[U2]\nType=6002\nName=KT-G100\nPonNum=1\nNameKeyPon1=GPON\n"
+    "LanPortNum=0\nPotsPortNum=0\nSpecialPortNum=0\n";
+
+constexpr std::string_view kParts[] = {
+    kVersionPart, kModulePart, kFunctionPart, kPortTypePart, kMainBoardPart,      kBoardPart,
+    kFramePart,   kOnuPonPart, kOnuLanPart,   kOnuPotsPart,  kOnuSpecialPortPart, kOnuPart};
+static_assert(std::size(kParts) == kSteps);
+
+// The parts of the steps in front of one, or of all.
+inline std::string FileBefore(size_t step) {
   std::string file;
-  for (const std::string_view part : {kVersionPart, kModulePart, kFunctionPart, kPortTypePart,
-                                      kMainBoardPart, kBoardPart, kFramePart}) {
-    file += loaders > 0 ? part : "";
-    loaders -= loaders > 0 ? 1 : 0;
+  for (size_t i = 0; i < step; ++i) {
+    file += kParts[i];
   }
   return file;
 }
-constexpr size_t kLoaders = 7;
 
 // Watches the library while the given bytes are its definition file.
 struct DeviceFile {
-  explicit DeviceFile(std::string_view bytes = FileFor(kLoaders)) : file(bytes) {
+  explicit DeviceFile(std::string_view bytes = FileBefore(kSteps)) : file(bytes) {
     faults.paths[kDeviceFile] = file.path();
   }
   // The library finds no definition file at all.

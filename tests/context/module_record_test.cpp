@@ -3,10 +3,13 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "support/definition_file.h"
 #include "support/faults.h"
 #include "support/null_arguments.h"
+#include "support/records.h"
+#include "support/rows.h"
 #include "support/tables.h"
 #include "support/text.h"
 
@@ -43,10 +46,7 @@ TEST_P(ReadModule, HandsOverARecord) {
   const std::unique_ptr<ModuleInformation, decltype(&std::free)> owner(module, &std::free);
   EXPECT_EQ(console_.Text(), "");
   EXPECT_EQ(module->ulModuleType, GetParam().type);
-  EXPECT_EQ(module->ulNameLen, GetParam().module_name.size() + 1);
-  string field = GetParam().module_name;
-  field.resize(sizeof module->acName);
-  EXPECT_EQ(string(module->acName, sizeof module->acName), field);
+  test::ExpectName(module->acName, module->ulNameLen, GetParam().module_name);
   EXPECT_EQ(module->ulSize, GetParam().size);
 }
 
@@ -58,13 +58,6 @@ const RecordRow kRecords[] = {
     {"Plain", Sec("7", "OMCI", "64"), 7, "OMCI", 64},
     {"KeysInAnyOrder", "[Sec]\nSize=64\nOther=1\nName=OMCI\nType=7\n", 7, "OMCI", 64},
     {"FirstKeyWins", Sec("7", "OMCI", "64") + "Type=8\nName=B\nSize=9\n", 7, "OMCI", 64},
-    {"TypeZero", Sec("0", "N", "1"), 0, "N", 1},
-    {"TypeEmpty", Sec("", "N", "1"), 0, "N", 1},
-    {"TypeText", Sec("abc", "N", "1"), 0, "N", 1},
-    {"TypeWithText", Sec("12x", "N", "1"), 12, "N", 1},
-    {"TypeNegative", Sec("-1", "N", "1"), 4294967295, "N", 1},
-    {"TypeAbove32Bits", Sec("4294967296", "N", "1"), 2147483647, "N", 1},
-    {"TypeBelow32Bits", Sec("-4294967297", "N", "1"), 2147483648, "N", 1},
     {"SizeZero", Sec("1", "N", "0"), 1, "N", 0},
     {"SizeEmpty", Sec("1", "N", ""), 1, "N", 0},
     {"SizeText", Sec("1", "N", "big"), 1, "N", 0},
@@ -76,6 +69,16 @@ const RecordRow kRecords[] = {
     {"NameLongest", Sec("1", string(59, 'n'), "1"), 1, string(59, 'n'), 1},
 };
 INSTANTIATE_TEST_SUITE_P(Modules, ReadModule, testing::ValuesIn(kRecords),
+                         testing::PrintToStringParamName());
+
+std::vector<RecordRow> TypeRecords() {
+  std::vector<RecordRow> rows;
+  for (const test::TypeRow& row : test::kTypes) {
+    rows.push_back({row.name, Sec(row.text, "N", "1"), row.type, "N", 1});
+  }
+  return rows;
+}
+INSTANTIATE_TEST_SUITE_P(Types, ReadModule, testing::ValuesIn(TypeRecords()),
                          testing::PrintToStringParamName());
 
 struct FailRow {
@@ -127,12 +130,24 @@ const FailRow kFails[] = {
     {"TypeOfOtherCase", "[Sec]\ntype=1\nName=N\nSize=1\n", -31, NoType("-2")},
     {"BrokenBeforeType", "[Sec]\nnonsense\nType=1\nName=N\nSize=1\n", -31, NoType("-14")},
     {"TooLongBeforeType", "[Sec]\n" + kTooLong + "Type=1\nName=N\nSize=1\n", -31, NoType("-22")},
-    {"TypeUnreadable", Sec("1", "N", "1"), -31, NoType("-12"), 1},
-    {"TypeNotOpened", Sec("1", "N", "1"), -31, NoType("-10"), 0, 1},
+    {.name = "TypeUnreadable",
+     .file = Sec("1", "N", "1"),
+     .code = -31,
+     .console = NoType("-12"),
+     .failing_read = 1},
+    {.name = "TypeNotOpened",
+     .file = Sec("1", "N", "1"),
+     .code = -31,
+     .console = NoType("-10"),
+     .failing_open = 1},
     {"NoName", "[Sec]\nType=1\nSize=1\n", -31, NoKey("-2", "Name")},
     {"BrokenBeforeName", "[Sec]\nType=1\nnonsense\nName=N\nSize=1\n", -31, NoKey("-14", "Name")},
     {"TooLongBeforeName", "[Sec]\nType=1\n" + kTooLong + "Name=N\n", -31, NoKey("-22", "Name")},
-    {"NameNotOpened", Sec("1", "N", "1"), -31, NoKey("-10", "Name"), 0, 2},
+    {.name = "NameNotOpened",
+     .file = Sec("1", "N", "1"),
+     .code = -31,
+     .console = NoKey("-10", "Name"),
+     .failing_open = 2},
     {"NameTooLong", Sec("1", string(60, 'n'), "1"), -33,
      "\r\nddReadOneModuleInformation err! ulNameLen = 61"},
     {"NameFarTooLong", Sec("1", string(507, 'n'), "1"), -33,
@@ -142,7 +157,11 @@ const FailRow kFails[] = {
     {"NoSize", "[Sec]\nType=1\nName=N\n", -31, NoKey("-2", "Size")},
     {"BrokenBeforeSize", "[Sec]\nType=1\nName=N\nnonsense\nSize=1\n", -31, NoKey("-14", "Size")},
     {"TooLongBeforeSize", "[Sec]\nType=1\nName=N\n" + kTooLong, -31, NoKey("-22", "Size")},
-    {"SizeNotOpened", Sec("1", "N", "1"), -31, NoKey("-10", "Size"), 0, 3},
+    {.name = "SizeNotOpened",
+     .file = Sec("1", "N", "1"),
+     .code = -31,
+     .console = NoKey("-10", "Size"),
+     .failing_open = 3},
 };
 INSTANTIATE_TEST_SUITE_P(Modules, FailToReadModule, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());

@@ -9,6 +9,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace test {
 
@@ -65,6 +66,32 @@ constexpr FrameCounts kWholeFrame = {.name_length = 9,
                                      .logic_ports = 2,
                                      .balance_ports = 2};
 
+// What the ONU catalog holds.
+struct OnuCounts {
+  uint32_t pon_types = 0;
+  uint32_t lan_types = 0;
+  uint32_t pots_types = 0;
+  uint32_t special_types = 0;
+  uint32_t onus = 0;
+  uint32_t most_lan_ports = 0;
+
+  static OnuCounts OfTheCatalog() {
+    return {gstSupportedOnuPonType.ulSupportedOnuPonTypeNum,
+            gstSupportedOnuLanType.ulSupportedOnuLanTypeNum,
+            gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum,
+            gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum,
+            gstSupportedOnuType.ulSupportedOnuTypeNum,
+            gstSupportedOnuType.ulSupportedOnuMaxLanNum};
+  }
+  bool operator==(const OnuCounts&) const = default;
+  friend std::ostream& operator<<(std::ostream& out, const OnuCounts& counts) {
+    return out << counts.pon_types << " ONU PON types, " << counts.lan_types << " ONU LAN types, "
+               << counts.pots_types << " ONU POTS types, " << counts.special_types
+               << " ONU special port types, " << counts.onus << " ONU types with up to "
+               << counts.most_lan_ports << " LAN ports";
+  }
+};
+
 // How many records each table holds.
 struct Counts {
   uint32_t versions = 0;
@@ -74,6 +101,7 @@ struct Counts {
   uint32_t main_boards = 0;
   uint32_t boards = 0;
   FrameCounts frame = {};
+  OnuCounts onu = {};
 
   static Counts OfTheTables() {
     return {gstVersionInformation.ulSupportedSoftVerNum,
@@ -82,14 +110,15 @@ struct Counts {
             gstSupportedOltPortType.ulSupportedOltPortTypeNum,
             gstSupportedMainBoardType.ulSupportedBoardTypeNum,
             gstSupportedBoardType.ulSupportedBoardTypeNum,
-            FrameCounts::OfTheFrame()};
+            FrameCounts::OfTheFrame(),
+            OnuCounts::OfTheCatalog()};
   }
   bool operator==(const Counts&) const = default;
   friend std::ostream& operator<<(std::ostream& out, const Counts& counts) {
     return out << counts.versions << " versions, " << counts.modules << " modules, "
                << counts.functions << " functions, " << counts.port_types << " port types, "
                << counts.main_boards << " main boards, " << counts.boards << " boards, "
-               << counts.frame;
+               << counts.frame << ", " << counts.onu;
   }
 };
 
@@ -99,7 +128,13 @@ constexpr Counts kEverything = {.versions = 2,
                                 .port_types = 2,
                                 .main_boards = 1,
                                 .boards = 2,
-                                .frame = kWholeFrame};
+                                .frame = kWholeFrame,
+                                .onu = {.pon_types = 1,
+                                        .lan_types = 1,
+                                        .pots_types = 1,
+                                        .special_types = 1,
+                                        .onus = 2,
+                                        .most_lan_ports = 1}};
 
 // What a start that meets a fault comes to.
 struct Outcome {
@@ -133,6 +168,32 @@ constexpr Outcome kWithoutABoard = EverythingBut([](Counts& all) {
   all.frame.boards = 2;
 });
 
+// The ONU types that are left out: the first alone has LAN ports.
+template <uint32_t OnuCounts::*types>
+constexpr Outcome kWithoutTypesOfTheFirstOnu = EverythingBut([](Counts& all) {
+  all.onu.*types = 0;
+  all.onu.onus = 1;
+  all.onu.most_lan_ports = 0;
+});
+constexpr Outcome kWithoutOnuPonTypes = EverythingBut([](Counts& all) {
+  all.onu.pon_types = 0;
+  all.onu.onus = all.onu.most_lan_ports = 0;
+});
+constexpr Outcome kWithoutTheFirstOnu = EverythingBut([](Counts& all) {
+  all.onu.onus = 1;
+  all.onu.most_lan_ports = 0;
+});
+constexpr Outcome kWithoutTheSecondOnu = EverythingBut([](Counts& all) { all.onu.onus = 1; });
+constexpr Outcome kWithoutOnus =
+    EverythingBut([](Counts& all) { all.onu.onus = all.onu.most_lan_ports = 0; });
+
+// What is loaded when a start stops in the ONU catalog: what it has by then.
+constexpr Counts InOnus(const OnuCounts& onu) {
+  Counts loaded = kEverything;
+  loaded.onu = onu;
+  return loaded;
+}
+
 // What the driver and its callers say of a loader that failed with `code`.
 inline std::string DriverSays(const std::string& loader, const std::string& code) {
   return "\r\nddParseContextFile->" + loader + " err! iResult = " + code +
@@ -153,6 +214,38 @@ inline std::string NoCardOfBoard(const std::string& number) {
 }
 inline std::string NoMainCard() {
   return NoCard("MCXA", ", ulSlotListIndex = 1, ulSlotOut = 2");
+}
+
+// What the ONU type loader says of a type with ports that cannot be had. An adder of
+// ports fails with -1, but that of the LAN ports with -27.
+inline std::string NoOnu(const std::string& number, const std::string& adder,
+                         const std::string& code) {
+  return "\r\nddReadOneSupportedOnuInformation->" + adder + " err! strOnuTypeSection = U" + number +
+         "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! iResult = " +
+         code + ", section = U" + number;
+}
+// The same when a port is of a type that was left out.
+inline std::string NoOnuPortType(const std::string& number, const std::string& kind,
+                                 const std::string& key, const std::string& code) {
+  const std::string adder = "ddAddSupported" + kind + "ToOnuObj";
+  return "\r\n" + adder + "->ddIsOnu" + kind +
+         "TypeSupportedByName err! iResult = -32, strKey = " + key + ", ulIndex = 0" +
+         NoOnu(number, adder, code);
+}
+constexpr char kNoOnuLeft[] = "\r\nddFindSupportedOnuMaxLanNum ok! ulSupportedOnuTypeNum = 0";
+// What is said of the ONU types when a catalog's only type was left out.
+inline std::string NoOnusOfPonType() {
+  return NoOnuPortType("1", "Pon", "NameKeyPon1", "-1") +
+         NoOnuPortType("2", "Pon", "NameKeyPon1", "-1") + kNoOnuLeft;
+}
+inline std::string NoOnuOfLanType() {
+  return NoOnuPortType("1", "Lan", "NameKeyLanPort1", "-27");
+}
+inline std::string NoOnuOfPotsType() {
+  return NoOnuPortType("1", "Pots", "NameKeyPotsPort1", "-1");
+}
+inline std::string NoOnuOfSpecialPortType() {
+  return NoOnuPortType("1", "SpecialPort", "NameKeySpecialPort1", "-1");
 }
 
 // The text without the braces, or without what is in them as well.

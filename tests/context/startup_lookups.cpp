@@ -50,6 +50,12 @@ constexpr Counts InLogicPorts(uint32_t ports) {
   return loaded;
 }
 
+constexpr Counts InBalancePorts(uint32_t ports) {
+  Counts loaded = InLogicPorts(2);
+  loaded.frame.balance_ports = ports;
+  return loaded;
+}
+
 // ---- What a failure leads to -------------------------------------------------------
 
 constexpr Outcome Failed(const Counts& loaded) {
@@ -67,6 +73,11 @@ Lookup Stops(const string& console, const Counts& loaded) {
 // The start goes on, and comes to `once` if nothing else fails; else it stops.
 Lookup LeavesOut(const string& console, const Outcome& once, const Counts& stopped) {
   return {console, once, Failed(stopped)};
+}
+
+// The start goes on, and succeeds whatever fails behind.
+Lookup LeavesOut(const string& console, const Outcome& once, const Outcome& for_ever) {
+  return {console, once, for_ever};
 }
 
 // ---- Modules and functions -------------------------------------------------------
@@ -229,6 +240,64 @@ string NoLogicPortAmount(const string& reader, const string& key) {
          DriverSays("ddReadFrameInformation", "-31");
 }
 
+// ---- ONU port types ------------------------------------------------------------------
+
+string NoOnuTypeCount(const string& loader, const string& section, const string& key) {
+  return "\r\n" + loader + " err! iResult = %, section = " + section + ", key = " + key +
+         DriverSays(loader, "-31");
+}
+string NoOnuTypeEntry(const string& loader, const string& section) {
+  return "\r\n" + loader + " err! iResult = %, section = " + section + ", key = " + section + "1";
+}
+string NoOnuTypeKey(const string& reader, const string& section, const string& key,
+                    const string& loader) {
+  return "\r\n" + reader + " err! iResult = %, section = " + section + ", key = " + key + "\r\n" +
+         loader +
+         "->ddReadOneSupportedOnuPonInformation err! iResult = -31, strValueBuf = " + section;
+}
+string NoOnuPonTypeKey(const string& key) {
+  return NoOnuTypeKey("ddReadOneSupportedOnuPonInformation", "OnuPon", key,
+                      "ddReadAllSupportedOltPortInformation");
+}
+string NoOnuLanTypeKey(const string& key) {
+  return NoOnuTypeKey("ddReadOneSupportedOnuLanInformation", "OnuLan", key,
+                      "ddReadAllSupportedOltPortInformation");
+}
+string NoOnuPotsTypeKey(const string& key) {
+  return NoOnuTypeKey("ddReadOneSupportedOnuPotsInformation", "OnuPots", key,
+                      "ddReadAllSupportedOnuPotsInformation");
+}
+string NoOnuSpecialPortTypeKey(const string& key) {
+  return NoOnuTypeKey("ddReadOneSupportedOnuSpecialPortInformation", "OnuSpecial", key,
+                      "ddReadAllSupportedOnuSpecialPortInformation");
+}
+
+// ---- ONU types -----------------------------------------------------------------------
+
+constexpr OnuCounts kOnuPortTypes = {1, 1, 1, 1};
+
+string NoOnuEntry(const string& number) {
+  return "\r\nddReadAllSupportedOnuInformation err! iResult = %, section = SupportedOnuType, "
+         "key = SupportedOnuType" +
+         number;
+}
+string NoOnuSection(const string& number) {
+  return "\r\nddReadAllSupportedOnuInformation err! iResult = %, section = U" + number +
+         ", key = Type" + DriverSays("ddReadAllSupportedOnuInformation", "-31");
+}
+string NoOnuKey(const string& number, const string& key) {
+  return "\r\nddReadOneSupportedOnuInformation err! iResult = %, section = U" + number +
+         ", key = " + key +
+         "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! "
+         "iResult = -31, section = U" +
+         number;
+}
+string NoOnuPorts(const string& number, const string& kind, const string& key, const string& code) {
+  const string adder = "ddAddSupported" + kind + "ToOnuObj";
+  return "\r\n" + adder + " err! iResult = %, section = U" + number + ", key = " + key +
+         NoOnu(number, adder, code);
+}
+
 }  // namespace
 
 const std::vector<Lookup>& Lookups() {
@@ -375,12 +444,88 @@ const std::vector<Lookup>& Lookups() {
       LeavesOut(NoLogicPort(kPlainReader, "SwitchChipLogicPort2"),
                 EverythingBut([](Counts& all) { all.frame.logic_ports = 1; }), InLogicPorts(1)),
       Stops(NoLogicPortAmount(kBalanceReader, "Type2SwitchChipLogicPortNum"), InLogicPorts(2)),
-      {NoLogicPort(kBalanceReader, "Type2SwitchChipLogicPort1"),
-       EverythingBut([](Counts& all) { all.frame.balance_ports = 1; }),
-       EverythingBut([](Counts& all) { all.frame.balance_ports = 0; })},
-      {NoLogicPort(kBalanceReader, "Type2SwitchChipLogicPort2"),
-       EverythingBut([](Counts& all) { all.frame.balance_ports = 1; }),
-       EverythingBut([](Counts& all) { all.frame.balance_ports = 1; })},
+      LeavesOut(NoLogicPort(kBalanceReader, "Type2SwitchChipLogicPort1"),
+                EverythingBut([](Counts& all) { all.frame.balance_ports = 1; }), InBalancePorts(0)),
+      LeavesOut(NoLogicPort(kBalanceReader, "Type2SwitchChipLogicPort2"),
+                EverythingBut([](Counts& all) { all.frame.balance_ports = 1; }), InBalancePorts(1)),
+
+      // ONU port types; the ONU types with a port of that type are left out with it
+      Stops(NoOnuTypeCount("ddReadAllSupportedOnuPonInformation", "SupportedOltPonType",
+                           "SupportedOltPonTypeNum"),
+            InOnus({})),
+      LeavesOut(NoOnuTypeEntry("ddReadAllSupportedOnuPonInformation", "SupportedOnuPonType") +
+                    NoOnusOfPonType(),
+                kWithoutOnuPonTypes, InOnus({})),
+      LeavesOut(NoOnuPonTypeKey("Type") + NoOnusOfPonType(), kWithoutOnuPonTypes, InOnus({})),
+      LeavesOut(NoOnuPonTypeKey("Speed") + NoOnusOfPonType(), kWithoutOnuPonTypes, InOnus({})),
+      Stops(NoOnuTypeCount("ddReadAllSupportedOnuLanInformation", "SupportedOnuLanType",
+                           "SupportedOnuLanTypeNum"),
+            InOnus({1})),
+      LeavesOut(NoOnuTypeEntry("ddReadAllSupportedOnuPonInformation", "SupportedOnuLanType") +
+                    NoOnuOfLanType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::lan_types>, InOnus({1})),
+      LeavesOut(NoOnuLanTypeKey("Type") + NoOnuOfLanType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::lan_types>, InOnus({1})),
+      LeavesOut(NoOnuLanTypeKey("Speed") + NoOnuOfLanType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::lan_types>, InOnus({1})),
+      Stops(NoOnuTypeCount("ddReadAllSupportedOnuPotsInformation", "SupportedOnuPotsType",
+                           "SupportedOnuPotsTypeNum"),
+            InOnus({1, 1})),
+      LeavesOut(NoOnuTypeEntry("ddReadAllSupportedOnuPotsInformation", "SupportedOnuPotsType") +
+                    NoOnuOfPotsType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::pots_types>, InOnus({1, 1})),
+      LeavesOut(NoOnuPotsTypeKey("Type") + NoOnuOfPotsType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::pots_types>, InOnus({1, 1})),
+      LeavesOut(NoOnuPotsTypeKey("Speed") + NoOnuOfPotsType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::pots_types>, InOnus({1, 1})),
+      Stops(NoOnuTypeCount("ddReadAllSupportedOnuSpecialPortInformation",
+                           "SupportOnuSpecialPortType", "SupportOnuSpecialPortTypeNum"),
+            InOnus({1, 1, 1})),
+      LeavesOut(NoOnuTypeEntry("ddReadAllSupportedOnuSpecialPortInformation",
+                               "SupportedOnuSpecialPortType") +
+                    NoOnuOfSpecialPortType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::special_types>, InOnus({1, 1, 1})),
+      LeavesOut(NoOnuSpecialPortTypeKey("Type") + NoOnuOfSpecialPortType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::special_types>, InOnus({1, 1, 1})),
+      LeavesOut(NoOnuSpecialPortTypeKey("Speed") + NoOnuOfSpecialPortType(),
+                kWithoutTypesOfTheFirstOnu<&OnuCounts::special_types>, InOnus({1, 1, 1})),
+
+      // ONU types; without the section of the second one the first one's record, its lists
+      // of ports and its ports are lost
+      Stops("\r\nddReadAllSupportedOnuInformation err! iResult = %, section = SupportedOnuLanType, "
+            "key = SupportedOnuLanTypeNum" +
+                DriverSays("ddReadAllSupportedOnuInformation", "-31"),
+            InOnus(kOnuPortTypes)),
+      LeavesOut(NoOnuEntry("1"), kWithoutTheFirstOnu, kWithoutOnus),
+      Stops(NoOnuSection("1"), InOnus(kOnuPortTypes)),
+      LeavesOut(NoOnuKey("1", "Type"), kWithoutTheFirstOnu, kWithoutOnus),
+      LeavesOut(NoOnuKey("1", "Speed"), kWithoutTheFirstOnu, kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "Pon", "PonNum", "-31"), kWithoutTheFirstOnu, kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "Pon", "NameKeyPon1", "-1"), kWithoutTheFirstOnu, kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "Lan", "LanPortNum", "-31"), kWithoutTheFirstOnu, kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "Lan", "NameKeyLanPort1", "-27"), kWithoutTheFirstOnu,
+                kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "Pots", "PotsPortNum", "-31"), kWithoutTheFirstOnu, kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "Pots", "NameKeyPotsPort1", "-1"), kWithoutTheFirstOnu,
+                kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "SpecialPort", "SpecialPortNum", "-31"), kWithoutTheFirstOnu,
+                kWithoutOnus),
+      LeavesOut(NoOnuPorts("1", "SpecialPort", "NameKeySpecialPort1", "-1"), kWithoutTheFirstOnu,
+                kWithoutOnus),
+      LeavesOut(NoOnuEntry("2"), kWithoutTheSecondOnu, kWithoutTheSecondOnu),
+      Stops(NoOnuSection("2"), {.code = -31, .loaded = InOnus(kOnuPortTypes), .lost = 9}),
+      LeavesOut(NoOnuKey("2", "Type"), kWithoutTheSecondOnu, kWithoutTheSecondOnu),
+      LeavesOut(NoOnuKey("2", "Speed"), kWithoutTheSecondOnu, kWithoutTheSecondOnu),
+      LeavesOut(NoOnuPorts("2", "Pon", "PonNum", "-31"), kWithoutTheSecondOnu,
+                kWithoutTheSecondOnu),
+      LeavesOut(NoOnuPorts("2", "Pon", "NameKeyPon1", "-1"), kWithoutTheSecondOnu,
+                kWithoutTheSecondOnu),
+      LeavesOut(NoOnuPorts("2", "Lan", "LanPortNum", "-31"), kWithoutTheSecondOnu,
+                kWithoutTheSecondOnu),
+      LeavesOut(NoOnuPorts("2", "Pots", "PotsPortNum", "-31"), kWithoutTheSecondOnu,
+                kWithoutTheSecondOnu),
+      LeavesOut(NoOnuPorts("2", "SpecialPort", "SpecialPortNum", "-31"), kWithoutTheSecondOnu,
+                kWithoutTheSecondOnu),
   };
   return lookups;
 }

@@ -13,12 +13,24 @@ using test::Counts;
 using test::DeviceFile;
 using test::DriverSays;
 using test::FaultPlan;
+using test::InOnus;
 using test::kWithoutABoard;
 using test::kWithoutAModule;
 using test::kWithoutAPortType;
+using test::kWithoutOnuPonTypes;
+using test::kWithoutOnus;
+using test::kWithoutTheFirstOnu;
 using test::kWithoutTheMainBoard;
+using test::kWithoutTheSecondOnu;
+using test::kWithoutTypesOfTheFirstOnu;
 using test::NoCardOfBoard;
 using test::NoMainCard;
+using test::NoOnu;
+using test::NoOnuOfLanType;
+using test::NoOnuOfPotsType;
+using test::NoOnuOfSpecialPortType;
+using test::NoOnusOfPonType;
+using test::OnuCounts;
 using test::Outcome;
 
 constexpr char kNoBuffer[] =
@@ -61,6 +73,12 @@ TEST_F(StartupMemory, NoMemoryForTheWorkBufferLeavesEmptyTables) {
   gstSupportedMainBoardType.ulSupportedBoardTypeNum = 9;
   gstSupportedBoardType.ulSupportedBoardTypeNum = 9;
   gstFrame.ulNameLen = 9;
+  gstSupportedOnuPonType.ulSupportedOnuPonTypeNum = 9;
+  gstSupportedOnuLanType.ulSupportedOnuLanTypeNum = 9;
+  gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum = 9;
+  gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum = 9;
+  gstSupportedOnuType.ulSupportedOnuTypeNum = 9;
+  gstSupportedOnuType.ulSupportedOnuMaxLanNum = 9;
   DeviceFile device;
   device.faults.allocations.FailFrom(1, 1);
   EXPECT_EQ(ddInit(), -1);
@@ -114,6 +132,39 @@ string NoPort(const string& number) {
          "strBoardTypeSection = B" +
          number + kBoardFailed + "-1, section = B" + number;
 }
+
+// ONU port types: the list, and the only record of it.
+string NoOnuTypeList(const string& loader, const string& array) {
+  return "\r\n" + loader + "->malloc err! " + array + " = 0x0" + DriverSays(loader, "-27");
+}
+string NoOnuTypeRecord(const string& kind, const string& record, const string& loader,
+                       const string& section) {
+  return "\r\nddReadOneSupported" + kind + "Information->malloc err! " + record + " = 0x0\r\n" +
+         loader +
+         "->ddReadOneSupportedOnuPonInformation err! iResult = -27, "
+         "strValueBuf = " +
+         section;
+}
+// ONU types.
+string NoOnuRecord(const string& number) {
+  return "\r\nddReadOneSupportedOnuInformation->malloc err! pstOnuInformation = 0x0"
+         "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! "
+         "iResult = -27, section = U" +
+         number;
+}
+string NoOnuPorts(const string& number, const string& named, const string& array,
+                  const string& adder) {
+  return "\r\n" + named + " err! pstOnuInformation->" + array + " = 0x0" +
+         NoOnu(number, adder, "-27");
+}
+string NoOnuPort(const string& number, const string& copy, const string& kind, const string& key,
+                 const string& code) {
+  const string adder = "ddAddSupported" + kind + "ToOnuObj";
+  return copy + "\r\n" + adder + "->ddCreateOneOnu" + kind + "ObjByName err! strKey = " + key +
+         NoOnu(number, adder, code);
+}
+constexpr char kNoPonCopy[] =
+    "{\r\ndd_CreateOneOnuPonObjBySecName, pstOnuPonInformationOut = 0x0, ulIndex = 0}";
 
 // The frame when the loader finds no room for the boards of its slots.
 constexpr test::FrameCounts kFrameWithoutRows = {9, 64, 128, 6};
@@ -192,6 +243,89 @@ const AllocationRow kAllocations[] = {
          DriverSays("ddReadFrameInformation", "-27"),
      {-27, {2, 2, 2, 2, 1, 2, kFrameWithoutRows}},
      {-27, {2, 2, 2, 2, 1, 2, kFrameWithoutRows}}},
+    {"OnuPonTypeList",
+     NoOnuTypeList("ddReadAllSupportedOnuPonInformation", "pOnuPonTypeArray"),
+     {-27, InOnus({})},
+     {-27, InOnus({})}},
+    {"OnuPonType",
+     NoOnuTypeRecord("OnuPon", "pstOnuPonInformation", "ddReadAllSupportedOltPortInformation",
+                     "OnuPon") +
+         NoOnusOfPonType(),
+     kWithoutOnuPonTypes,
+     {-27, InOnus({})}},
+    {"OnuLanTypeList",
+     NoOnuTypeList("ddReadAllSupportedOnuLanInformation", "pOnuLanTypeArray"),
+     {-27, InOnus({1})},
+     {-27, InOnus({1})}},
+    {"OnuLanType",
+     NoOnuTypeRecord("OnuLan", "pstOnuLanPortInformation", "ddReadAllSupportedOltPortInformation",
+                     "OnuLan") +
+         NoOnuOfLanType(),
+     kWithoutTypesOfTheFirstOnu<&OnuCounts::lan_types>,
+     {-27, InOnus({1})}},
+    {"OnuPotsTypeList",
+     NoOnuTypeList("ddReadAllSupportedOnuPotsInformation", "pOnuPotsTypeArray"),
+     {-27, InOnus({1, 1})},
+     {-27, InOnus({1, 1})}},
+    {"OnuPotsType",
+     NoOnuTypeRecord("OnuPots", "pstOnuPotsPortInformation", "ddReadAllSupportedOnuPotsInformation",
+                     "OnuPots") +
+         NoOnuOfPotsType(),
+     kWithoutTypesOfTheFirstOnu<&OnuCounts::pots_types>,
+     {-27, InOnus({1, 1})}},
+    {"OnuSpecialPortTypeList",
+     NoOnuTypeList("ddReadAllSupportedOnuSpecialPortInformation", "pOnuSpecialPortTypeArray"),
+     {-27, InOnus({1, 1, 1})},
+     {-27, InOnus({1, 1, 1})}},
+    {"OnuSpecialPortType",
+     NoOnuTypeRecord("OnuSpecialPort", "pstOnuSpecialPortInformation",
+                     "ddReadAllSupportedOnuSpecialPortInformation", "OnuSpecial") +
+         NoOnuOfSpecialPortType(),
+     kWithoutTypesOfTheFirstOnu<&OnuCounts::special_types>,
+     {-27, InOnus({1, 1, 1})}},
+    // kept as is: the message names the LAN port types.
+    {"OnuList",
+     NoOnuTypeList("ddReadAllSupportedOnuInformation", "pOnuLanTypeArray"),
+     {-27, InOnus({1, 1, 1, 1})},
+     {-27, InOnus({1, 1, 1, 1})}},
+    {"FirstOnu", NoOnuRecord("1"), kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusPonPorts",
+     NoOnuPorts("1", "ddAddSupportedPonToOnuObj", "pOnuPonArray", "ddAddSupportedPonToOnuObj"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusPonPort", NoOnuPort("1", kNoPonCopy, "Pon", "NameKeyPon1", "-1"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusLanPorts",
+     NoOnuPorts("1", "ddAddSupportedPonToOnuObj", "pOnuLanPortArray", "ddAddSupportedLanToOnuObj"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusLanPort",
+     NoOnuPort("1", "\r\nddCreateOneOnuLanObjByName, pstOnuLanPortInformationOut = 0x0, ulIndex= 0",
+               "Lan", "NameKeyLanPort1", "-27"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusPotsPorts",
+     NoOnuPorts("1", "ddAddSupportedPotsToOnuObj", "pOnuPotsPortArray",
+                "ddAddSupportedPotsToOnuObj"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusPotsPort",
+     NoOnuPort("1",
+               "\r\nddCreateOneOnuPotsObjByName, pstOnuPotsPortInformationOut = 0x0, ulIndex = 0",
+               "Pots", "NameKeyPotsPort1", "-1"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusSpecialPorts",
+     NoOnuPorts("1", "ddAddSupportedSpecialPortToOnuObj", "pOnuSpecialPortArray",
+                "ddAddSupportedSpecialPortToOnuObj"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnusSpecialPort",
+     NoOnuPort("1",
+               "\r\nddCreateOneOnuSpecialPortObjByName, pstOnuSpecialPortInformationOut = 0x0, "
+               "ulIndex = 0",
+               "SpecialPort", "NameKeySpecialPort1", "-1"),
+     kWithoutTheFirstOnu, kWithoutOnus},
+    {"SecondOnu", NoOnuRecord("2"), kWithoutTheSecondOnu, kWithoutTheSecondOnu},
+    {"SecondOnusPonPorts",
+     NoOnuPorts("2", "ddAddSupportedPonToOnuObj", "pOnuPonArray", "ddAddSupportedPonToOnuObj"),
+     kWithoutTheSecondOnu, kWithoutTheSecondOnu},
+    {"SecondOnusPonPort", NoOnuPort("2", kNoPonCopy, "Pon", "NameKeyPon1", "-1"),
+     kWithoutTheSecondOnu, kWithoutTheSecondOnu},
 };
 
 TEST_F(StartupMemory, AStartMakesTheseAllocations) {

@@ -14,16 +14,20 @@
 #include "support/text.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace {
 
 using std::string;
 using test::DeviceFile;
+using test::FileBefore;
+using enum test::Step;
 
-// What the tables of the complete file lead to: four arrays, two modules, two port
-// types, a main board, two boards, each with an array and a port, and the boards of
-// the slots.
-constexpr size_t kBlocks = 4 + 2 + 2 + 1 + 2 * 3 + 1;
+// What the tables of the complete file lead to: nine arrays, two modules, two port
+// types, a main board, two boards, each with an array and a port, the boards of the
+// slots, an ONU port type of each kind, and two ONU types, one with a port of each kind
+// in an array of its own, the other with one.
+constexpr size_t kBlocks = 9 + 2 + 2 + 1 + 2 * 3 + 1 + 4 + 1 + 4 * 2 + 1 + 2;
 
 class Startup : public test::LibraryTest {
  protected:
@@ -94,6 +98,42 @@ class Startup : public test::LibraryTest {
     ASSERT_EQ(gstFrame.ulType2SwitchChipLogicPortNum, 2u);
     EXPECT_EQ(gstFrame.astType2SwitchChipLogicPort[1].usPhyPort, 6);
   }
+  static void ExpectOnuPorts(uint32_t count, OnuPortTypeInformation* const* ports, uint32_t type,
+                             const char* name) {
+    ASSERT_EQ(count, 1u);
+    EXPECT_EQ(ports[0]->ulPortType, type);
+    EXPECT_STREQ(ports[0]->acName, name);
+  }
+  static void ExpectOnuPonTypes() {
+    const SupportedOnuPonType& table = gstSupportedOnuPonType;
+    ExpectOnuPorts(table.ulSupportedOnuPonTypeNum, table.pOnuPonTypeArray, 2, "GPON");
+  }
+  static void ExpectOnuLanTypes() {
+    const SupportedOnuLanType& table = gstSupportedOnuLanType;
+    ExpectOnuPorts(table.ulSupportedOnuLanTypeNum, table.pOnuLanTypeArray, 3, "FE");
+  }
+  static void ExpectOnuPotsTypes() {
+    const SupportedOnuPotsType& table = gstSupportedOnuPotsType;
+    ExpectOnuPorts(table.ulSupportedOnuPotsTypeNum, table.pOnuPotsTypeArray, 4, "FXS");
+  }
+  static void ExpectOnuSpecialPortTypes() {
+    const SupportedOnuSpecialPortType& table = gstSupportedOnuSpecialPortType;
+    ExpectOnuPorts(table.ulSupportedOnuSpecialPortTypeNum, table.pOnuSpecialPortTypeArray, 5,
+                   "CATV");
+  }
+  static void ExpectOnus() {
+    ASSERT_EQ(gstSupportedOnuType.ulSupportedOnuTypeNum, 2u);
+    const OnuInformation& first = *gstSupportedOnuType.pOnuTypeArray[0];
+    EXPECT_EQ(first.ulOnuType, 6001u);
+    EXPECT_STREQ(first.acName, "KT-G101");
+    ExpectOnuPorts(first.ulTotalPonNum, first.pOnuPonArray, 2, "GPON");
+    ExpectOnuPorts(first.ulTotalLanPortNum, first.pOnuLanPortArray, 3, "FE");
+    ExpectOnuPorts(first.ulTotalPotsNum, first.pOnuPotsPortArray, 4, "FXS");
+    ExpectOnuPorts(first.ulTotalSpecialPortNum, first.pOnuSpecialPortArray, 5, "CATV");
+    EXPECT_EQ(gstSupportedOnuType.pOnuTypeArray[1]->ulOnuType, 6002u);
+    EXPECT_EQ(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType, 6001u);
+    EXPECT_EQ(gstSupportedOnuType.ulSupportedOnuMaxLanNum, 1u);
+  }
   static void ExpectEverything() {
     ExpectVersions();
     ExpectModules();
@@ -102,6 +142,11 @@ class Startup : public test::LibraryTest {
     ExpectMainBoards();
     ExpectBoards();
     ExpectFrame();
+    ExpectOnuPonTypes();
+    ExpectOnuLanTypes();
+    ExpectOnuPotsTypes();
+    ExpectOnuSpecialPortTypes();
+    ExpectOnus();
   }
   static bool AreZero(const void* bytes, size_t size) {
     const char* const begin = static_cast<const char*>(bytes);
@@ -125,6 +170,22 @@ class Startup : public test::LibraryTest {
     return table.ulSupportedBoardTypeNum == 0 && table.pBoardTypeArray == nullptr &&
            table.ulSupportedBoardMaxPonType == 0 && table.ulSupportedBoardMaxPonNum == 0;
   }
+  static bool IsZero(const SupportedOnuPonType& table) {
+    return table.ulSupportedOnuPonTypeNum == 0 && table.pOnuPonTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedOnuLanType& table) {
+    return table.ulSupportedOnuLanTypeNum == 0 && table.pOnuLanTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedOnuPotsType& table) {
+    return table.ulSupportedOnuPotsTypeNum == 0 && table.pOnuPotsTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedOnuSpecialPortType& table) {
+    return table.ulSupportedOnuSpecialPortTypeNum == 0 && table.pOnuSpecialPortTypeArray == nullptr;
+  }
+  static bool IsZero(const SupportedOnuType& table) {
+    return table.ulSupportedOnuTypeNum == 0 && table.pOnuTypeArray == nullptr &&
+           table.ulSupportedOnuMaxLanOnuType == 0 && table.ulSupportedOnuMaxLanNum == 0;
+  }
   static bool IsZero(const FrameInformation& frame) {
     const auto is_zero = [](const BalanceSwitchLogicPortInfo& entry) {
       return entry.ucSlotOut == 0 && entry.ucSlotPort == 0 && entry.usChipPort == 0 &&
@@ -145,6 +206,11 @@ class Startup : public test::LibraryTest {
     EXPECT_TRUE(IsZero(gstSupportedMainBoardType));
     EXPECT_TRUE(IsZero(gstSupportedBoardType));
     EXPECT_TRUE(IsZero(gstFrame));
+    EXPECT_TRUE(IsZero(gstSupportedOnuPonType));
+    EXPECT_TRUE(IsZero(gstSupportedOnuLanType));
+    EXPECT_TRUE(IsZero(gstSupportedOnuPotsType));
+    EXPECT_TRUE(IsZero(gstSupportedOnuSpecialPortType));
+    EXPECT_TRUE(IsZero(gstSupportedOnuType));
   }
   // Leaves over from an earlier life.
   static void FillWithOldData() {
@@ -155,6 +221,11 @@ class Startup : public test::LibraryTest {
     gstSupportedMainBoardType = {9, SomeAddress<MainBoardInformation*>()};
     gstSupportedBoardType = {9, SomeAddress<BoardInformation*>(), 8, 7};
     std::memset(&gstFrame, 0x5a, sizeof gstFrame);
+    gstSupportedOnuPonType = {9, SomeAddress<OnuPortTypeInformation*>()};
+    gstSupportedOnuLanType = {9, SomeAddress<OnuPortTypeInformation*>()};
+    gstSupportedOnuPotsType = {9, SomeAddress<OnuPortTypeInformation*>()};
+    gstSupportedOnuSpecialPortType = {9, SomeAddress<OnuPortTypeInformation*>()};
+    gstSupportedOnuType = {9, SomeAddress<OnuInformation*>(), 8, 7};
   }
   template <typename Record>
   static Record* SomeAddress() {
@@ -227,14 +298,25 @@ TEST_F(Startup, ClearsTheWholeTablesBeforeTheLoad) {
       "[KT3300-L_FrameInfomation]\nType=0\nName=F\nMaxOnuNum=0\nMaxUserNum=0\n"
       "RealSlotNum=1\nRealSlotList=1\nVirtualSlotNum=0\nHcuSlotNum=0\nFanSlotNum=0\nCioSlotNum=0\n"
       "PowerSlotNum=0\nServeBoardSlotNum=0\nMainSlotNum=0\nUplinkSlotNum=0\n"
-      "SwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n");
+      "SwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n"
+      "[SupportedOnuPonType]\nSupportedOnuPonTypeNum=0\n"
+      "[SupportedOnuLanType]\nSupportedOnuLanTypeNum=0\n"
+      "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum=0\n"
+      "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum=0\n"
+      "[SupportedOnuType]\nSupportedOnuTypeNum=0\n");
   EXPECT_EQ(ddInit(), 0);
   EXPECT_EQ(console_.Text(),
             "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 0"
             "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = 0"
             "\r\nddReadAllSupportedBoardInformation ok! ulSupportedOnuTypeNum = 0"
             "\r\nddReadSlotSupportBoard err! iResult = -2, section = KT3300-L_FrameInfomation, "
-            "key = SupportedBoardTypeSlot1");
+            "key = SupportedBoardTypeSlot1"
+            "\r\nddReadAllSupportedOnuPonInformation ok! ulSupportedOnuPonTypeNum = 0"
+            "\r\nddReadAllSupportedOnuLanInformation ok! ulSupportedOnuLanTypeNum = 0"
+            "\r\nddReadAllSupportedOnuPotsInformation ok! ulSupportedOnuPotsTypeNum = 0"
+            "\r\nddReadAllSupportedOnuSpecialPortInformation ok! "
+            "ulSupportedOnuSpecialPortTypeNum = 0"
+            "\r\nddReadAllSupportedOnuInformation ok! ulSupportedOnuTypeNum = 0");
   VersionInformation versions = {};
   versions.ulSupportedSoftVerNum = 1;
   versions.astSupportedSoftVer[0] = {2, "V"};
@@ -281,32 +363,45 @@ struct FailRow {
   const char* name;
   string file;
   int32_t code;
-  size_t steps_done;  // of: versions, modules, functions, port types, main boards, boards, frame
+  test::Step step;  // that fails
   string loader_console;
-  string debug_console;  // what the loader says under the debug switch only
-  string loader;
-  int frees = 1;  // the work buffer
+  string debug_console = "";  // what the loader says under the debug switch only
+  int frees = 1;              // the work buffer
   friend std::ostream& operator<<(std::ostream& out, const FailRow& row) { return out << row.name; }
 };
 
 class FailingStep : public Startup, public testing::WithParamInterface<FailRow> {
  protected:
   // The tables of the steps before the failure are there, the others are empty.
-  static void ExpectStepsDone() {
-    void (*const expect_table[])() = {ExpectVersions,  ExpectModules,    ExpectFunctions,
-                                      ExpectPortTypes, ExpectMainBoards, ExpectBoards,
-                                      ExpectFrame};
-    const bool is_zero[] = {IsZero(gstVersionInformation),
-                            IsZero(gstModuleTypeList),
-                            IsZero(gstSysSupportFuncType),
-                            IsZero(gstSupportedOltPortType),
-                            IsZero(gstSupportedMainBoardType),
-                            IsZero(gstSupportedBoardType),
-                            IsZero(gstFrame)};
-    for (size_t step = 0; step < std::size(is_zero); ++step) {
+  static void ExpectStepsBefore() {
+    void (*const expect_table[kSteps])() = {ExpectVersions,
+                                            ExpectModules,
+                                            ExpectFunctions,
+                                            ExpectPortTypes,
+                                            ExpectMainBoards,
+                                            ExpectBoards,
+                                            ExpectFrame,
+                                            ExpectOnuPonTypes,
+                                            ExpectOnuLanTypes,
+                                            ExpectOnuPotsTypes,
+                                            ExpectOnuSpecialPortTypes,
+                                            ExpectOnus};
+    const bool is_zero[kSteps] = {IsZero(gstVersionInformation),
+                                  IsZero(gstModuleTypeList),
+                                  IsZero(gstSysSupportFuncType),
+                                  IsZero(gstSupportedOltPortType),
+                                  IsZero(gstSupportedMainBoardType),
+                                  IsZero(gstSupportedBoardType),
+                                  IsZero(gstFrame),
+                                  IsZero(gstSupportedOnuPonType),
+                                  IsZero(gstSupportedOnuLanType),
+                                  IsZero(gstSupportedOnuPotsType),
+                                  IsZero(gstSupportedOnuSpecialPortType),
+                                  IsZero(gstSupportedOnuType)};
+    for (size_t step = 0; step < kSteps; ++step) {
       SCOPED_TRACE(step);
-      EXPECT_EQ(is_zero[step], step >= GetParam().steps_done);
-      if (step < GetParam().steps_done) {
+      EXPECT_EQ(is_zero[step], step >= GetParam().step);
+      if (step < GetParam().step) {
         expect_table[step]();
       }
     }
@@ -314,7 +409,7 @@ class FailingStep : public Startup, public testing::WithParamInterface<FailRow> 
   // What the loader and the parse driver say.
   static string Said() {
     return GetParam().loader_console + (ddDebugPrint != 0 ? GetParam().debug_console : "") +
-           "\r\nddParseContextFile->" + GetParam().loader +
+           "\r\nddParseContextFile->" + test::kLoaderNames[GetParam().step] +
            " err! iResult = " + std::to_string(GetParam().code) +
            ", strDeviceDefFilePath = /mnt/work/device_definition.ini";
   }
@@ -331,7 +426,7 @@ TEST_P(FailingStep, OfTheParse) {
     DeviceFile device(GetParam().file);
     EXPECT_EQ(ddParseContextFile(), GetParam().code);
     EXPECT_EQ(console_.Text(), Said());
-    ExpectStepsDone();
+    ExpectStepsBefore();
   }
 }
 
@@ -342,7 +437,7 @@ TEST_P(FailingStep, OfTheReader) {
     DeviceFile device(GetParam().file);
     EXPECT_EQ(ddReadContextFile(), GetParam().code);
     EXPECT_EQ(console_.Text(), Said() + SaidByTheReader());
-    ExpectStepsDone();
+    ExpectStepsBefore();
     EXPECT_EQ(device.faults.frees, GetParam().frees);
     test::ExpectNoLeak(device.faults);
   }
@@ -356,73 +451,104 @@ TEST_P(FailingStep, OfTheInitialisation) {
     DeviceFile device(GetParam().file);
     EXPECT_EQ(ddInit(), GetParam().code);
     EXPECT_EQ(console_.Text(), Said() + SaidByTheReader() + "ddInit initialize......failed!\r\n");
-    ExpectStepsDone();
+    ExpectStepsBefore();
   }
 }
 
-// The first `steps` sections of the complete file, and one more.
-string FileWith(size_t steps, const char* more) {
-  return test::FileFor(steps) + more;
+// The parts of the complete file in front of a step's, and another for that step.
+string FileWith(size_t step, const char* more) {
+  return FileBefore(step) + more;
 }
 
 const FailRow kFails[] = {
-    {"VersionsNoSection", "[ModuleTypeList]\nModuleNum=0\n", -31, 0,
-     "\r\nddReadVersionInformation err! iResult = -1, section = Version, key = Version", "",
-     "ddReadVersionInformation"},
-    {"VersionsBroken", "[Version\n" + test::FileFor(6), -31, 0,
-     "\r\nddReadVersionInformation err! iResult = -14, section = Version, key = Version", "",
-     "ddReadVersionInformation"},
-    {"ModulesNoSection", test::FileFor(1), -31, 1,
-     "\r\nddReadAllModuleInformation err! iResult = -1, section = ModuleTypeList, key = ModuleNum",
-     "", "ddReadAllModuleInformation"},
-    {"ModulesTooMany", FileWith(1, "[ModuleTypeList]\nModuleNum=201\n"), -28, 1,
+    {"VersionsNoSection", "[ModuleTypeList]\nModuleNum=0\n", -31, kVersions,
+     "\r\nddReadVersionInformation err! iResult = -1, section = Version, key = Version"},
+    {"VersionsBroken", "[Version\n" + FileBefore(kFrame), -31, kVersions,
+     "\r\nddReadVersionInformation err! iResult = -14, section = Version, key = Version"},
+    {"ModulesNoSection", FileBefore(kModules), -31, kModules,
+     "\r\nddReadAllModuleInformation err! iResult = -1, section = ModuleTypeList, key = ModuleNum"},
+    {"ModulesTooMany", FileWith(kModules, "[ModuleTypeList]\nModuleNum=201\n"), -28, kModules,
      "\r\nddReadAllModuleInformation err! ulModuleTypeNum = 201, MAX_SUPPORTED_MODULE_TYPE_NUM = "
-     "200",
-     "", "ddReadAllModuleInformation"},
-    {"FunctionsNoSection", test::FileFor(2), -31, 2, "",
+     "200"},
+    {"FunctionsNoSection", FileBefore(kFunctions), -31, kFunctions, "",
      "\r\nddReadSysSupportFuncInformation err! iResult = -1, section = SupportedSysFunctionType, "
-     "key = SupportedSysFunctionTypeNum",
-     "ddReadSysSupportFuncInformation"},
+     "key = SupportedSysFunctionTypeNum"},
     {"FunctionsTooMany",
-     FileWith(2, "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=-1\n"), -28, 2, "",
-     "\r\nddReadSysSupportFuncInformation err! iResult = 0, ulSupportedSysFunctionTypeNum = -1",
-     "ddReadSysSupportFuncInformation"},
-    {"PortTypesNoSection", test::FileFor(3), -31, 3,
+     FileWith(kFunctions, "[SupportedSysFunctionType]\nSupportedSysFunctionTypeNum=-1\n"), -28,
+     kFunctions, "",
+     "\r\nddReadSysSupportFuncInformation err! iResult = 0, ulSupportedSysFunctionTypeNum = -1"},
+    {"PortTypesNoSection", FileBefore(kPortTypes), -31, kPortTypes,
      "\r\nddReadAllSupportedOltPortInformation err! iResult = -1, section = SupportedOltPortType, "
-     "key = SupportedOltPortTypeNum",
-     "", "ddReadAllSupportedOltPortInformation"},
-    {"PortTypesTooMany", FileWith(3, "[SupportedOltPortType]\nSupportedOltPortTypeNum=31\n"), -11,
-     3,
+     "key = SupportedOltPortTypeNum"},
+    {"PortTypesTooMany",
+     FileWith(kPortTypes, "[SupportedOltPortType]\nSupportedOltPortTypeNum=31\n"), -11, kPortTypes,
      "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 31, "
-     "MAX_OLT_PORT_TYPE_NUM = 30",
-     "", "ddReadAllSupportedOltPortInformation"},
-    {"MainBoardsNoSection", test::FileFor(4), -31, 4,
+     "MAX_OLT_PORT_TYPE_NUM = 30"},
+    {"MainBoardsNoSection", FileBefore(kMainBoards), -31, kMainBoards,
      "\r\nddReadAllSupportedBoardInformation err! iResult = -1, section = SupportedMainBoardType, "
-     "key = SupportedMainBoardTypeNum",
-     "", "ddReadAllSupportedMainBoardInformation"},
-    {"MainBoardsTooMany", FileWith(4, "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=101\n"),
-     -19, 4,
+     "key = SupportedMainBoardTypeNum"},
+    {"MainBoardsTooMany",
+     FileWith(kMainBoards, "[SupportedMainBoardType]\nSupportedMainBoardTypeNum=101\n"), -19,
+     kMainBoards,
      "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = 101, "
-     "MAX_OLT_BOARD_TYPE_NUM = 100",
-     "", "ddReadAllSupportedMainBoardInformation"},
-    {"BoardsNoSection", test::FileFor(5), -31, 5,
+     "MAX_OLT_BOARD_TYPE_NUM = 100"},
+    {"BoardsNoSection", FileBefore(kBoards), -31, kBoards,
      "\r\nddReadAllSupportedBoardInformation err! iResult = -1, section = SupportedBoardType, "
-     "key = SupportedBoardTypeNum",
-     "", "ddReadAllSupportedBoardInformation"},
-    {"BoardsTooMany", FileWith(5, "[SupportedBoardType]\nSupportedBoardTypeNum=101\n"), -19, 5,
+     "key = SupportedBoardTypeNum"},
+    {"BoardsTooMany", FileWith(kBoards, "[SupportedBoardType]\nSupportedBoardTypeNum=101\n"), -19,
+     kBoards,
      "\r\nddReadAllSupportedBoardInformation err! ulSupportedOnuTypeNum = 101, "
-     "MAX_OLT_BOARD_TYPE_NUM = 100",
-     "", "ddReadAllSupportedBoardInformation"},
-    {"FrameNoSection", test::FileFor(6), -31, 6,
+     "MAX_OLT_BOARD_TYPE_NUM = 100"},
+    {"FrameNoSection", FileBefore(kFrame), -31, kFrame,
      "\r\nddReadFrameInformation err! iResult = -1, strSectionFrameNameBuf = "
-     "KT3300-L_FrameInfomation, dd_gstrKeyFrameType = Type",
-     "", "ddReadFrameInformation"},
+     "KT3300-L_FrameInfomation, dd_gstrKeyFrameType = Type"},
     {"FrameInconsistent",
-     test::Replaced(test::FileFor(7), "PowerSlotNum=0", "PowerSlotNum=2\nPowerSlotList=9,3"), -3, 6,
+     test::Replaced(FileBefore(kOnuPonTypes), "PowerSlotNum=0",
+                    "PowerSlotNum=2\nPowerSlotList=9,3"),
+     -3, kFrame,
      "\r\nddGetMainSlotRange err! ulPowerSlotAmount = 2, ulPowerSlotStart = 9, "
      "ulPowerSlotEnd = 3",
      "\r\nddReadFrameInformation->ddCheckFrameInformation err! iResult = -3",
-     "ddReadFrameInformation", 2},  // and the boards of the slots
+     2},  // and the boards of the slots
+    {"OnuPonTypesNoSection", FileBefore(kOnuPonTypes), -31, kOnuPonTypes,
+     "\r\nddReadAllSupportedOnuPonInformation err! iResult = -1, section = SupportedOltPonType, "
+     "key = SupportedOltPonTypeNum"},
+    {"OnuPonTypesTooMany",
+     FileWith(kOnuPonTypes, "[SupportedOnuPonType]\nSupportedOnuPonTypeNum=31\n"), -16,
+     kOnuPonTypes,
+     "\r\nddReadAllSupportedOnuPonInformation err! ulSupportedOnuPonTypeNum = 31, "
+     "MAX_ONU_PON_TYPE_NUM = 30"},
+    {"OnuLanTypesNoSection", FileBefore(kOnuLanTypes), -31, kOnuLanTypes,
+     "\r\nddReadAllSupportedOnuLanInformation err! iResult = -1, section = SupportedOnuLanType, "
+     "key = SupportedOnuLanTypeNum"},
+    {"OnuLanTypesTooMany",
+     FileWith(kOnuLanTypes, "[SupportedOnuLanType]\nSupportedOnuLanTypeNum=31\n"), -16,
+     kOnuLanTypes,
+     "\r\nddReadAllSupportedOnuLanInformation err! ulSupportedOnuLanTypeNum = 31, "
+     "MAX_ONU_LAN_TYPE_NUM = 30"},
+    {"OnuPotsTypesNoSection", FileBefore(kOnuPotsTypes), -31, kOnuPotsTypes,
+     "\r\nddReadAllSupportedOnuPotsInformation err! iResult = -1, section = SupportedOnuPotsType, "
+     "key = SupportedOnuPotsTypeNum"},
+    {"OnuPotsTypesTooMany",
+     FileWith(kOnuPotsTypes, "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum=31\n"), -16,
+     kOnuPotsTypes,
+     "\r\nddReadAllSupportedOnuPotsInformation err! ulSupportedOnuPotsTypeNum = 31, "
+     "MAX_ONU_POTS_TYPE_NUM = 30"},
+    {"OnuSpecialPortTypesNoSection", FileBefore(kOnuSpecialPortTypes), -31, kOnuSpecialPortTypes,
+     "\r\nddReadAllSupportedOnuSpecialPortInformation err! iResult = -1, "
+     "section = SupportOnuSpecialPortType, key = SupportOnuSpecialPortTypeNum"},
+    {"OnuSpecialPortTypesTooMany",
+     FileWith(kOnuSpecialPortTypes,
+              "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum=31\n"),
+     -16, kOnuSpecialPortTypes,
+     "\r\nddReadAllSupportedOnuSpecialPortInformation err! ulSupportedOnuSpecialPortTypeNum = 31, "
+     "MAX_ONU_SPECIAL_PORT_TYPE_NUM = 30"},
+    {"OnusNoSection", FileBefore(kOnus), -31, kOnus,
+     "\r\nddReadAllSupportedOnuInformation err! iResult = -1, section = SupportedOnuLanType, "
+     "key = SupportedOnuLanTypeNum"},
+    {"OnusTooMany", FileWith(kOnus, "[SupportedOnuType]\nSupportedOnuTypeNum=201\n"), -21, kOnus,
+     "\r\nddReadAllSupportedOnuInformation err! ulSupportedOnuTypeNum = 201, "
+     "MAX_ONU_TYPE_NUM = 200"},
 };
 INSTANTIATE_TEST_SUITE_P(Startup, FailingStep, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());

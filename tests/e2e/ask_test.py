@@ -63,6 +63,50 @@ ANSWERS = (
      "code = -36\npulHigigPortList =\npulChipPortCnt = 0\n"),
     (LARGE, "ddRunGetSwitchChipPhyPortFromLogicPort 17", "code = 0\npulPhyPort = 68\n"),
     (SMALL, "ddRunGetSwitchChipPhyPortFromLogicPort 2", "code = 0\npulPhyPort = 5\n"),
+    # Port types, and copies of them
+    (LARGE, "ddIsOnuPonTypeSupportedByName GPON", "code = 0\npIsSupported = 1\npIndex = 1\n"),
+    (LARGE, "ddIsOnuPonTypeSupportedByType 99", "code = -15\npIsSupported = 0\npIndex = 0\n"),
+    (LARGE, "ddIsOnuLanTypeSupportedByType 99",
+     "code = -32\npIsSupported = 0\npIndex = (untouched)\n"),
+    (LARGE, "ddCreateOneOnuLanObjByName GE", "code = 0\npOnuLanTypeObjAddr = GE, type 2\n"),
+    (LARGE, "ddCreateOneOnuPonObjByName NONE", "code = -32\npOnuPonTypeObjAddr = (null)\n"),
+    (LARGE, "ddCreateOneOltPortObjByName GPON",
+     "code = 0\npulOltPortTypeObjAddr = GPON, type 2, splitting ratio 128\n"),
+    # ONU types of the definition file
+    (LARGE, "ddCheckSupportedOnuTypeNum", "code = 0\npulIsOk = 1\n"),
+    (LARGE, "ddGetOnuNameByType 6012", "code = 0\npcOnuName = KT-G142D\n"),
+    (LARGE, "ddGetOnuTypeByName KT-G142D", "code = 0\npulOnuType = 6012\n"),
+    (LARGE, "ddGetOnuLanPortNumByType 6012", "code = 0\npulOnuLanPortNum = 4\n"),
+    (LARGE, "ddGetOnuLanPortNumByType 6309", "code = 0\npulOnuLanPortNum = 26\n"),
+    (LARGE, "ddGetOnuPonPortTypeByType 6012 1", "code = 0\npulOnuPonType = 2\n"),
+    (LARGE, "ddGetOnuPonPortTypeByType 6012 2", "code = -5\npulOnuPonType = (untouched)\n"),
+    (LARGE, "ddGetOnuSpecialPortTypeList 6012 100",
+     "code = 0\npulSpecialPortTypeArray = 2 3 4\npulSpecialPortTypeAmount = 3\n"),
+    (LARGE, "ddGetOnuSpecialPortTypeList 6012 99",
+     "code = -25\npulSpecialPortTypeArray = (untouched)\n"
+     "pulSpecialPortTypeAmount = (untouched)\n"),
+    (SMALL, "ddGetAllSupportedOnuType 12",
+     "code = 0\npulOnuTypeNum = 12\npulOnuTypeArray ="
+     " 6001 6003 6008 6012 6014 6101 6106 6301 6306 6401 6403 6407\n"),
+    (SMALL, "ddGetAllSupportedOnuType 13",
+     "code = -21\npulOnuTypeNum = 13\npulOnuTypeArray = (untouched)\n"),
+    # Those that only the platform knows, and those that it does not know either
+    (LARGE, "ddGetOnuNameByType 9001", "code = 0\npcOnuName = KT-PLATFORM-ONU-1\n"),
+    (LARGE, "ddGetOnuTypeByName KT-PLATFORM-ONU-2", "code = 0\npulOnuType = 9002\n"),
+    (LARGE, "ddGetOnuLanPortNumByType 9001", "code = 0\npulOnuLanPortNum = 24\n"),
+    (SMALL, "ddGetOnuLanPortNumByType 9001", "code = 0\npulOnuLanPortNum = 2\n"),
+    (LARGE, "ddGetOnuLanPortTypeByType 9001 32", "code = 0\npulOnuLanPortType = 2\n"),
+    (LARGE, "ddGetOnuPonNumByType 9002", "code = 0\npulOnuPonNum = 2\n"),
+    (LARGE, "ddGetOnuSpecialPortNumByType 9001 2", "code = 0\npulOnuSpecialPortNum = 2\n"),
+    (LARGE, "ddGetOnuSpecialPortTypeList 9001 100",
+     "code = 0\npulSpecialPortTypeArray = 1 2 3\npulSpecialPortTypeAmount = 3\n"),
+    (LARGE, "ddGetOnuPotsPortTypeByType 9001 3", "code = -1\npulOnuPotsPortType = 0\n"),
+    (LARGE, "ddGetOnuSpecialPortTypeByPortNo 9001 5",
+     "code = -20\npulSpecialPortType = (untouched)\n"),
+    (LARGE, "ddIsOnuSupportedByType 9003", "code = -20\npulIsSupported = 0\n"),
+    (LARGE, "ddGetOnuTypeByName KT-G14", "code = -32\npulOnuType = 0\n"),
+    (LARGE, "ddGetSupportedOnuMaxLanNum", "code = 0\npulSupportedOnuMaxLanNum = 32\n"),
+    (SMALL, "ddGetSupportedOnuMaxLanNum", "code = 0\npulSupportedOnuMaxLanNum = 24\n"),
 )
 
 # One for each place that refuses; tests/host has all the messages.
@@ -118,10 +162,11 @@ class AskSamples(unittest.TestCase):
             lines = done.stdout.decode().splitlines()
             self.assertEqual(lines[0], "sysctx ask QUERY ARGUMENT ... calls one of these:")
             families = [line for line in lines if line.endswith(":") and " " not in line]
-            self.assertEqual(families[:3], ["context:", "olt:", "frame:"])
+            self.assertEqual(families[:4], ["context:", "olt:", "frame:", "onu:"])
             for line in ("  ddIsContextVerMatchSoftVer",
                          "  ddGetBoardAllPortTypesByType ulBoardType ulArrayAmount",
-                         "  ddIsRealSlot ulSlotOut"):
+                         "  ddIsRealSlot ulSlotOut",
+                         "  ddGetAllSupportedOnuType pulOnuTypeNum"):
                 self.assertIn(line, lines)
 
     def test_debug_shows_the_messages_of_queries(self):

@@ -80,13 +80,64 @@ SwitchChipLogicPort1=1,0,0
 SwitchChipLogicPort2=2,1,0
 Type2SwitchChipLogicPortNum=1
 Type2SwitchChipLogicPort1=1,0,0,29,1
+[SupportedOnuPonType]
+SupportedOnuPonTypeNum=1
+SupportedOnuPonType1=OnuPon_GPON
+[OnuPon_GPON]
+Type=2
+Name=GPON
+[SupportedOnuLanType]
+SupportedOnuLanTypeNum=1
+SupportedOnuLanType1=OnuLan_GE
+[OnuLan_GE]
+Type=3
+Name=GE
+[SupportedOnuPotsType]
+SupportedOnuPotsTypeNum=1
+SupportedOnuPotsType1=OnuPots_FXS
+[OnuPots_FXS]
+Type=1
+Name=FXS
+[SupportedOnuSpecialPortType]
+SupportedOnuSpecialPortTypeNum=1
+SupportedOnuSpecialPortType1=OnuSpecial_CATV
+[OnuSpecial_CATV]
+Type=5
+Name=CATV
+[SupportedOnuType]
+SupportedOnuTypeNum=2
+SupportedOnuType1=Onu_KT-G101
+SupportedOnuType2=Onu_KT-G112C
+[Onu_KT-G101]
+Type=6001
+Name=KT-G101
+PonNum=1
+NameKeyPon1=GPON
+LanPortNum=1
+NameKeyLanPort1=GE
+PotsPortNum=0
+SpecialPortNum=0
+[Onu_KT-G112C]
+Type=6020
+Name=KT-G112C
+PonNum=1
+NameKeyPon1=GPON
+LanPortNum=2
+NameKeyLanPort1=GE
+NameKeyLanPort2=GE
+PotsPortNum=1
+NameKeyPotsPort1=FXS
+SpecialPortNum=1
+NameKeySpecialPort1=CATV
 """
 # What sysctx says of them.
 LOADED = (
     "loaded: 2 versions, 1 modules, 1 system functions\n"
     "loaded: 1 OLT port types, 1 main boards, 2 service boards\n"
-    "loaded: frame KT3300-L, 2 real slots, 2 logic ports, 1 type-2 logic ports\n")
+    "loaded: frame KT3300-L, 2 real slots, 2 logic ports, 1 type-2 logic ports\n"
+    "loaded: ONU port types: 1 PON, 1 LAN, 1 POTS, 1 special; 2 ONU types\n")
 NO_FRAME = "loaded: frame (none), 0 real slots, 0 logic ports, 0 type-2 logic ports\n"
+NO_ONUS = "loaded: ONU port types: 0 PON, 0 LAN, 0 POTS, 0 special; 0 ONU types\n"
 
 
 def sample(name):

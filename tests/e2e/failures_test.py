@@ -104,8 +104,8 @@ class FailedStart(card.CardTest):
         self.assertIn("\nddInit failed with -28: tables behind the failure are empty\n", report)
         self.assertIn("\nconsole: ddReadAllModuleInformation err! ulModuleTypeNum = 201,", report)
         self.assertIn("loaded: 2 versions, 0 modules, 0 system functions\n"
-                      "loaded: 0 OLT port types, 0 main boards, 0 service boards\n" + card.NO_FRAME,
-                      report)
+                      "loaded: 0 OLT port types, 0 main boards, 0 service boards\n" + card.NO_FRAME
+                      + card.NO_ONUS, report)
 
     def test_shell_says_so_and_works(self):
         self.break_modules()
@@ -131,7 +131,7 @@ class FailedStart(card.CardTest):
                               report)
                 self.assertIn("loaded: 2 versions, 1 modules, 1 system functions\n"
                               "loaded: 1 OLT port types, 0 main boards, 0 service boards\n"
-                              + card.NO_FRAME, report)
+                              + card.NO_FRAME + card.NO_ONUS, report)
 
     def check_frame(self, code, frame, text):
         """The frame fails, and so much of it was loaded."""
@@ -140,7 +140,8 @@ class FailedStart(card.CardTest):
         self.assertIn(text, done.stdout)
         report = done.stderr.decode()
         self.assertIn(f"\nddInit failed with {code}: tables behind the failure are empty\n", report)
-        self.assertIn("loaded: 1 OLT port types, 1 main boards, 2 service boards\n" + frame, report)
+        self.assertIn("loaded: 1 OLT port types, 1 main boards, 2 service boards\n" + frame
+                      + card.NO_ONUS, report)
 
     def test_a_frame_that_fails_stays_as_far_as_it_was_loaded(self):
         self.define(card.DEFINITIONS.replace("SwitchChipLogicPort2=2,1,0",
@@ -153,6 +154,48 @@ class FailedStart(card.CardTest):
         self.define()
         self.write("equipment.toml", "device_type = 6\n")
         self.check_frame(-31, card.NO_FRAME, b"\r\neType = 0, ulNameLen = 0, acName = \r\n")
+
+    def check_onus(self, code, tables, shown):
+        """The ONU catalog fails, and so much of it was loaded; `shown`: texts by command."""
+        for command, text in shown:
+            with self.subTest(command=command):
+                done = card.run("--root", self.root, "run", f"show context {command}")
+                self.assertEqual(done.returncode, 0)
+                self.assertIn(text, done.stdout)
+                report = done.stderr.decode()
+                self.assertIn(f"\nddInit failed with {code}: tables behind the failure are empty\n",
+                              report)
+                self.assertIn(f" 1 type-2 logic ports\nloaded: {tables}\n", report)
+
+    def test_onu_port_types_in_front_of_the_failure_are_shown(self):
+        self.define(card.DEFINITIONS.replace("OnuPotsTypeNum=1", "OnuPotsTypeNum=31"))
+        self.check_onus(-16, "ONU port types: 1 PON, 1 LAN, 0 POTS, 0 special; 0 ONU types", (
+            ("onu_lan", b"\r\n 0. ulLanType =   3, ulNameLen =  3, acName =              GE\r\n"),
+            ("onu_pots", b"\r\nddPrintAllSupportedOnuPotsInfomation err! pOnuPotsTypeArray = 0x0"),
+            ("onu_type_all", b"\r\nddPrintAllSupportedOnuTypeBaseInfomation, "
+                             b"ulSupportedOnuTypeNum = 0, pOnuTypeArray = 0x0")))
+
+    def test_onu_types_need_a_lan_port_type(self):
+        self.define(card.DEFINITIONS.replace("OnuLanTypeNum=1", "OnuLanTypeNum=0"))
+        self.check_onus(-27, "ONU port types: 1 PON, 0 LAN, 1 POTS, 1 special; 0 ONU types", (
+            ("onu_detail index 0", b"\r\nddPrintOneSupportedOnuInfomation, "
+                                   b"ulSupportedOnuTypeNum = 0, pOnuTypeArray = 0x0"),))
+
+    def test_onu_types_out_of_order_are_none(self):
+        self.define(card.DEFINITIONS.replace("OnuType1=Onu_KT-G101", "OnuType1=Onu_KT-G112C")
+                    .replace("OnuType2=Onu_KT-G112C", "OnuType2=Onu_KT-G101"))
+        self.check_onus(-31, "ONU port types: 1 PON, 1 LAN, 1 POTS, 1 special; 0 ONU types", (
+            ("onu_type_all", b"\r\ngstSupportedOnuType.ulSupportedOnuTypeNum = 0\r\n"),
+            ("onu_detail index 0", b"\r\nNo supported onu!\r\nulSupportedOnuTypeNum = 0")))
+
+    def test_every_table_is_shown_without_a_definition_file(self):
+        done = card.run("--root", self.root, "run", "show context device_all")
+        self.assertEqual(done.returncode, 0)
+        self.assertIn(b"\r\nddPrintOneSupportedOnuInfomation, ulSupportedOnuTypeNum = 0, "
+                      b"pOnuTypeArray = 0x0\r\n\r\n/*****", done.stdout)
+        self.assertTrue(done.stdout.endswith(
+            b" System device describe end! *****************/\r\n" + b" " * 64 + b"\r\n"),
+            done.stdout[-200:])
 
     def test_missing_definition_file(self):
         done = card.run("--root", self.root, "run", "show context version")

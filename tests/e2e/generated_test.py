@@ -10,7 +10,9 @@ GENERATOR = card.SOURCE / "scripts" / "generate-definition"
 COUNTS = "2 versions, 4 modules, 2 system functions"
 OLT_COUNTS = "4 OLT port types, 1 main boards, 4 service boards"
 FRAME = "KT3300-L, 12 real slots, 24 logic ports, 10 type-2 logic ports"
+ONUS = "ONU port types: 4 PON, 4 LAN, 4 POTS, 4 special; 6 ONU types"
 NO_FRAME = "(none), 0 real slots, 0 logic ports, 0 type-2 logic ports"
+NO_ONUS = "ONU port types: 0 PON, 0 LAN, 0 POTS, 0 special; 0 ONU types"
 
 
 class Generated(card.CardTest):
@@ -25,18 +27,19 @@ class Generated(card.CardTest):
         self.assertEqual(done.returncode, 0)
         return done.stdout.decode()
 
-    def check_counts(self, counts, olt_counts, frame, report):
-        self.assertIn(f"loaded: {counts}\nloaded: {olt_counts}\nloaded: frame {frame}\n", report)
+    def check_counts(self, counts, olt_counts, frame, report, onus=ONUS):
+        self.assertIn(f"loaded: {counts}\nloaded: {olt_counts}\nloaded: frame {frame}\n"
+                      f"loaded: {onus}\n", report)
 
-    def check_loads(self, counts, olt_counts, *options, frame=FRAME):
+    def check_loads(self, counts, olt_counts, *options, frame=FRAME, onus=ONUS):
         report = self.load(*options)
-        self.check_counts(counts, olt_counts, frame, report)
+        self.check_counts(counts, olt_counts, frame, report, onus)
         self.assertNotIn("console:", report)
         self.assertNotIn("failed", report)
 
-    def check_refused(self, counts, olt_counts, code, *options, frame=NO_FRAME):
+    def check_refused(self, counts, olt_counts, code, *options, frame=NO_FRAME, onus=NO_ONUS):
         report = self.load(*options)
-        self.check_counts(counts, olt_counts, frame, report)
+        self.check_counts(counts, olt_counts, frame, report, onus)
         self.assertIn(f"ddInit failed with {code}:", report)
 
     def test_the_default(self):
@@ -49,7 +52,8 @@ class Generated(card.CardTest):
         self.check_loads("30 versions, 200 modules, 200 system functions",
                          "30 OLT port types, 1 main boards, 100 service boards",
                          "--limits", "--main-boards", "1",
-                         frame="KT3300-L, 100 real slots, 1280 logic ports, 58 type-2 logic ports")
+                         frame="KT3300-L, 100 real slots, 1280 logic ports, 58 type-2 logic ports",
+                         onus="ONU port types: 30 PON, 30 LAN, 30 POTS, 30 special; 200 ONU types")
 
     def test_as_many_main_boards_as_possible(self):
         self.check_loads(COUNTS, "4 OLT port types, 100 main boards, 4 service boards",
@@ -133,6 +137,36 @@ class Generated(card.CardTest):
         self.assertIn("console: read_balance_switch_logicport_to_portinfo err! iResult = -26, "
                       "ulChipLogciIndex = 58\n", report)
         self.assertNotIn("failed", report)
+
+    def test_onu_types_with_pon_ports_only(self):
+        self.check_loads(COUNTS, OLT_COUNTS, "--onu-lan-ports", "0", "--onu-pots-ports", "0",
+                         "--onu-special-ports", "0")
+
+    def test_no_onu_type_has_to_be_there(self):
+        report = self.load("--onu-types", "0")
+        self.check_counts(COUNTS, OLT_COUNTS, FRAME, report, ONUS.replace("6 ONU", "0 ONU"))
+        self.assertIn("console: ddReadAllSupportedOnuInformation ok! ulSupportedOnuTypeNum = 0\n",
+                      report)
+        self.assertNotIn("failed", report)
+
+    def test_too_many_onu_port_types_are_refused(self):
+        self.check_refused(COUNTS, OLT_COUNTS, -16, "--onu-port-types", "31", frame=FRAME)
+
+    def test_too_many_onu_types_are_refused(self):
+        self.check_refused(COUNTS, OLT_COUNTS, -21, "--onu-types", "201", frame=FRAME,
+                           onus=ONUS.replace("6 ONU", "0 ONU"))
+
+    def test_onu_types_without_port_types_are_refused(self):
+        self.check_refused(COUNTS, OLT_COUNTS, -27, "--onu-port-types", "0", frame=FRAME)
+
+    def test_an_onu_type_beyond_its_limits_is_left_out(self):
+        for option, number in (("--onu-pon-ports", "6"), ("--onu-pon-ports", "0"),
+                               ("--onu-lan-ports", "101"), ("--onu-pots-ports", "101"),
+                               ("--onu-special-ports", "101")):
+            with self.subTest(option=option, number=number):
+                report = self.load(option, number)
+                self.check_counts(COUNTS, OLT_COUNTS, FRAME, report, ONUS.replace("6 ONU", "0 ONU"))
+                self.assertNotIn("failed", report)
 
 
 if __name__ == "__main__":

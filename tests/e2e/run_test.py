@@ -6,8 +6,22 @@ import card
 
 GOLDEN = pathlib.Path(__file__).parent / "golden"
 COMMANDS = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all",
-            "frame")
+            "frame", "onu_pon", "onu_lan", "onu_pots", "onu_special_port", "onu_type_all",
+            "onu_detail index 8", "onu_all", "device_all")
+# What the report of the device, device_all, is made of.
+BEGIN = b"\r\n\r\n/***************** System device describe begin! *****************/\r\n"
+REPORT = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all",
+          "frame", "onu_pon", "onu_lan", "onu_pots", "onu_special_port", "onu_all")
+END = (b"\r\n\r\n/***************** System device describe end! *****************/\r\n"
+       + b" " * 64 + b"\r\n")
 OMCI_ROW = b" 0. ModuleType =  1, ulNameLen =  5, acName = OMCI         , ulSize = 64\r\n"
+
+
+def golden(sample, command):
+    """The bytes that a command prints on a sample."""
+    if command == "device_all":
+        return BEGIN + b"".join(golden(sample, each) for each in REPORT) + END
+    return (GOLDEN / f"{sample}-{command.split()[0]}.txt").read_bytes()
 
 
 class RunOnSamples(unittest.TestCase):
@@ -15,8 +29,7 @@ class RunOnSamples(unittest.TestCase):
         for command in COMMANDS:
             with self.subTest(sample=sample, command=command):
                 done = card.run(*options, "run", f"show context {command}")
-                expected = (GOLDEN / f"{sample}-{command}.txt").read_bytes()
-                self.assertEqual(done.stdout, expected)
+                self.assertEqual(done.stdout, golden(sample, command))
                 self.assertEqual(done.stderr, b"")
                 self.assertEqual(done.returncode, 0)
 
@@ -72,6 +85,31 @@ class Run(card.CardTest):
         self.assertEqual(
             done.stdout, b"ulSLotOut =  1, GP01A|PWDA|\r\nulSLotOut =  2, MCXA|\r\n")
 
+    def test_onu_filters(self):
+        done = self.run_command("show context onu_type_all | include ulOnuType")
+        self.assertEqual(
+            (done.returncode, done.stdout, done.stderr),
+            (0, b" 0. ulOnuType = 6001, ulNameLen =  8, acName = KT-G101        , "
+                b"ulTotalPonNum = 1, ulTotalLanPortNum =  1\r\n"
+                b" 1. ulOnuType = 6020, ulNameLen =  9, acName = KT-G112C       , "
+                b"ulTotalPonNum = 1, ulTotalLanPortNum =  2\r\n", b""))
+        done = self.run_command("show context onu_special_port | include CATV")
+        self.assertEqual(
+            done.stdout, b" 0. ulPortType =   5, ulNameLen =  5, acName =            CATV\r\n")
+
+    def test_one_onu_type_is_chosen_by_its_index(self):
+        for index, name in (("0", b"KT-G101"), ("1", b"KT-G112C"), ("abc", b"KT-G101"),
+                            ("1x", b"KT-G112C")):
+            with self.subTest(index=index):
+                done = self.run_command(f"show context onu_d index {index} | include One")
+                self.assertEqual((done.returncode, done.stdout, done.stderr),
+                                 (0, b"SupportedOneOnuInformation: " + name + b"\r\n", b""))
+        done = self.run_command("show context onu_detail index 2")
+        self.assertEqual(
+            (done.returncode, done.stdout, done.stderr),
+            (0, b"\r\ndebug_ddPrintOneSupportedOnuInfomation err! ulOnuIndex = 2, "
+                b"ulSupportedOnuTypeNum = 2\r\nIndex err! must from 0 to 1\r\n", b""))
+
     def test_the_frame_is_the_device_types(self):
         self.write("equipment.toml", "device_type = 17\n")
         self.define(card.DEFINITIONS.replace("[KT3300-L", "[KT3300-N"))
@@ -100,7 +138,15 @@ class Run(card.CardTest):
                      b"main_board           main board info.",
                      b"olt_port             olt port info.",
                      b"board_all            all board info.",
-                     b"frame                frame info."):
+                     b"frame                frame info.",
+                     b"onu_pon              onu pon info.",
+                     b"onu_lan              onu lan info.",
+                     b"onu_pots             onu pots info.",
+                     b"onu_special_port     onu special port info.",
+                     b"onu_type_all         all onu type info.",
+                     b"onu_detail           all onu type info.",
+                     b"onu_all              all onu detail info.",
+                     b"device_all           all devices info."):
             self.assertIn(b"  " + line + b"\n", done.stdout)
 
     def test_refused_commands(self):
@@ -110,6 +156,13 @@ class Run(card.CardTest):
                 ("show context m",
                  b'sysctx: Ambiguous command "show context m": module_all main_board\n'),
                 ("show context", b"sysctx: Incomplete command\n"),
+                ("show context onu",
+                 b'sysctx: Ambiguous command "show context onu": onu_pon onu_lan onu_pots '
+                 b'onu_special_port onu_type_all onu_detail onu_all\n'),
+                ("show context onu_detail", b"sysctx: Incomplete command\n"),
+                ("show context onu_detail index",
+                 b"sysctx: Incomplete command, missing required argument 'indexno' for command "
+                 b"'index'\n"),
                 ("show context version 1",
                  b'sysctx: Invalid argument "1": the command takes none\n'),
                 ("show context version | sort", b'sysctx: Invalid command "sort"\n')):
@@ -140,6 +193,22 @@ class Run(card.CardTest):
             b" iResult = -1, section = Board_GP01A\n"
             b"console: ddReadSlotSupportBoard err! iResult = -32, _tmp = GP01A,"
             b" ulSlotListIndex = 0, ulSlotOut = 1, ulSLotEnd = 2\n")
+
+    def test_onu_types_that_are_left_out_are_told(self):
+        self.define(card.DEFINITIONS.replace("NameKeyLanPort2=GE", "NameKeyLanPort2=FE"))
+        done = self.run_command("show context onu_type_all | include acName")
+        self.assertEqual(
+            (done.returncode, done.stdout),
+            (0, b" 0. ulOnuType = 6001, ulNameLen =  8, acName = KT-G101        , "
+                b"ulTotalPonNum = 1, ulTotalLanPortNum =  1\r\n"))
+        self.assertEqual(
+            done.stderr,
+            b"console: ddAddSupportedLanToOnuObj->ddIsOnuLanTypeSupportedByName err!"
+            b" iResult = -32, strKey = NameKeyLanPort2, ulIndex = 0\n"
+            b"console: ddReadOneSupportedOnuInformation->ddAddSupportedLanToOnuObj err!"
+            b" strOnuTypeSection = Onu_KT-G112C\n"
+            b"console: ddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err!"
+            b" iResult = -27, section = Onu_KT-G112C\n")
 
     def test_full_device_is_told(self):
         with open("/dev/full", "wb") as full:
@@ -175,8 +244,8 @@ class Script(card.CardTest):
         self.assertEqual(
             lines[3], f"  /mnt/work/device_definition.ini: {len(card.DEFINITIONS)} bytes")
         self.assertEqual(lines[4], "  /mnt/work/optmodule_definition.ini: missing")
-        self.assertEqual("\n".join(lines[5:8]) + "\n", card.LOADED)
-        self.assertEqual(lines[8], f"commands: {len(COMMANDS)} installed")
+        self.assertEqual("\n".join(lines[5:9]) + "\n", card.LOADED)
+        self.assertEqual(lines[9], f"commands: {len(COMMANDS)} installed")
         self.assertRegex("\n".join(lines), r"module 1: SysContext, version \"\w{3} [ \d]\d \d{4} ")
 
     def test_status_is_the_last_commands(self):

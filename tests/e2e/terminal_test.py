@@ -109,6 +109,10 @@ class Terminal(card.CardTest):
         self.type("show context ma\t", "show context main_board ")
         output = self.type("\r", "")
         self.assertIn("acName = MCXA", output)
+        self.type("show context onu_d\t", "show context onu_detail ")
+        self.type("i\t", "show context onu_detail index ")
+        output = self.type("1\r", "")
+        self.assertIn("SupportedOneOnuInformation: KT-G112C", output)
 
     def test_completion_goes_as_far_as_the_words_agree(self):
         self.type("show context \t", "show context ",

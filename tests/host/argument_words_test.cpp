@@ -187,5 +187,19 @@ TEST_F(MainBoards, OtherMapsAreDescribedByName) {
   EXPECT_EQ(DescribeRecord(*map), "UP4X, in no main board");
 }
 
+TEST(PortTypes, AreDescribedByNameAndNumbers) {
+  OltPortInformation olt = {};
+  olt.ulPortType = 2;
+  olt.ulSplittingRatio = 128;
+  strcpy(olt.acName, "GPON");
+  EXPECT_EQ(DescribeRecord(olt), "GPON, type 2, splitting ratio 128");
+  OnuPortTypeInformation onu = {};
+  onu.ulPortType = 4294967295;
+  strcpy(onu.acName, "GE");
+  EXPECT_EQ(DescribeRecord(onu), "GE, type 4294967295");
+  memset(onu.acName, 'x', sizeof onu.acName);
+  EXPECT_EQ(DescribeRecord(onu), std::string(60, 'x') + ", type 4294967295");
+}
+
 }  // namespace
 }  // namespace sysctx

@@ -113,6 +113,10 @@ const Row kRefused[] = {
      {"ddGetBoardAllPortTypesByType", "3101", "0", "30"},
      "ddGetBoardAllPortTypesByType takes 2 arguments, not 3\n"
      "usage: sysctx ask ddGetBoardAllPortTypesByType ulBoardType ulArrayAmount\n"},
+    {"NumberThatMayChangeIsGiven",
+     {"ddGetAllSupportedOnuType"},
+     "ddGetAllSupportedOnuType takes 1 argument, not 0\n"
+     "usage: sysctx ask ddGetAllSupportedOnuType pulOnuTypeNum\n"},
     {"NoNumber",
      {"ddIsRealSlot", "seven"},
      "bad ulSlotOut 'seven': a number from 0 to 4294967295 is wanted\n"
@@ -148,6 +152,7 @@ TEST(ListOfQueries, TellsTheirArgumentsByFamily) {
                                         "  ddGetModuleNameByType ulModuleType\n"));
   EXPECT_THAT(text, HasSubstr("\n\nolt:\n  ddIsOltPortTypeSupportedByName strOltPortTypeName\n"));
   EXPECT_THAT(text, HasSubstr("\n\nframe:\n  ddInquireFrameName\n"));
+  EXPECT_THAT(text, HasSubstr("\n\nonu:\n  ddIsOnuPonTypeSupportedByName strOnuPonTypeName\n"));
   EXPECT_THAT(text, HasSubstr("\n  ddGetBoardSlotList pstSlotClass ulArrayAmount\n"));
   EXPECT_THAT(text, HasSubstr("\n\nNumbers are decimal, or hexadecimal behind 0x, and at most"
                               " 4294967295; signed ones may be negative.\n"

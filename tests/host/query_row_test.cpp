@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -156,6 +157,52 @@ TEST(Outputs, RecordsAreDescribed) {
   EXPECT_EQ(Answered(query, {"2"}), "code = 0\nrecord = (null)\n");
 }
 
+uint32_t copies_made;
+
+int32_t CopyPort(uint32_t what, OltPortInformation** copy) {
+  if (what == kNothing) {
+    return 0;
+  }
+  *copy = nullptr;
+  if (what == kEverything) {
+    *copy = static_cast<OltPortInformation*>(calloc(1, sizeof **copy));
+    (*copy)->ulPortType = ++copies_made;
+    memcpy((*copy)->acName, "GPON", 5);
+  }
+  return 0;
+}
+
+// A sanitizer tells of copies that are not released, or twice.
+TEST(Outputs, CopiesAreDescribedAndReleased) {
+  const Query query = QUERY(CopyPort, In("what"), CopyOut("copy"));
+  EXPECT_EQ(Answered(query, {"0"}), "code = 0\ncopy = (untouched)\n");
+  EXPECT_EQ(Answered(query, {"1"}), "code = 0\ncopy = GPON, type 1, splitting ratio 0\n");
+  EXPECT_EQ(Answered(query, {"2"}), "code = 0\ncopy = (null)\n");
+  EXPECT_EQ(copies_made, 2u);
+}
+
+// The types of a table; a number above their number is refused.
+int32_t GiveAll(uint16_t* count, uint32_t* types) {
+  if (*count > 3) {
+    return -21;
+  }
+  *count = 2;
+  types[0] = 8;
+  types[1] = 9;
+  types[2] = 10;
+  return 0;
+}
+
+TEST(Outputs, MayBeInputs) {
+  const Query query = QUERY(GiveAll, InOut("count"), List("types"));
+  EXPECT_EQ(Answered(query, {"0"}), "code = 0\ncount = 2\ntypes = 8 9\n");
+  EXPECT_EQ(Answered(query, {"3"}), "code = 0\ncount = 2\ntypes = 8 9\n");
+  EXPECT_EQ(Answered(query, {"4"}), "code = -21\ncount = 4\ntypes = (untouched)\n");
+  EXPECT_TRUE(query.parameters.at(0).is_input);
+  EXPECT_THAT([&] { query.prepare({"65536"}); },
+              ThrowsMessage<BadArgument>("bad count '65536': a number from 0 to 65535 is wanted"));
+}
+
 // ---- The whole -----------------------------------------------------------------
 
 int32_t calls;
@@ -205,10 +252,14 @@ static_assert(!Fits<List, const uint32_t*> && !Fits<List, char*>);
 static_assert(!Fits<TextIn, char*> && !Fits<TextOut, const char*> && !Fits<TextOut, uint8_t*>);
 static_assert(Fits<RecordIn, const PortMap*> && !Fits<RecordIn, PortMap*>);
 static_assert(Fits<RecordOut, PortMap**> && !Fits<RecordOut, PortMap*>);
+static_assert(Fits<CopyOut, OltPortInformation**> && !Fits<CopyOut, OltPortInformation*>);
+static_assert(Fits<InOut, uint16_t*> && !Fits<InOut, const uint32_t*> && !Fits<InOut, uint32_t>);
 static_assert(ListsAreCounted<>() && ListsAreCounted<List, In, Out>());
 static_assert(ListsAreCounted<List, Out, In, List, Out>());
 static_assert(!ListsAreCounted<List, In>() && !ListsAreCounted<Out, List>());
 static_assert(!ListsAreCounted<List, Out, List, In>());
+static_assert(ListsAreCounted<InOut, List>() && ListsAreCounted<InOut, In, List>());
+static_assert(!ListsAreCounted<List, InOut>() && !ListsAreCounted<In, List>());
 
 }  // namespace
 }  // namespace sysctx

@@ -4,6 +4,7 @@
  *     c_consumer EXPORTS    (the list of exported symbols)
  */
 #include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
 
 #include "host.h"
@@ -12,6 +13,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 #include "sys_context/platform.h"
 
 #define COUNT(array) (sizeof(array) / sizeof((array)[0]))
@@ -173,20 +175,80 @@ static const struct {
     FUNCTION(ddRunGetSwitchChipLogicPortFromPhyPort),
     FUNCTION(ddRunGetSwitchChipPhyPortFromLogicPort),
     FUNCTION(get_current_frameno),
+    FUNCTION(ddCreateOneOnuLanObjByName),
+    FUNCTION(ddCreateOneOnuPonObjByName),
+    FUNCTION(ddCreateOneOnuPotsObjByName),
+    FUNCTION(ddCreateOneOnuSpecialPortObjByName),
+    FUNCTION(ddIsOnuLanTypeSupportedByName),
+    FUNCTION(ddIsOnuLanTypeSupportedByType),
+    FUNCTION(ddIsOnuPonTypeSupportedByName),
+    FUNCTION(ddIsOnuPonTypeSupportedByType),
+    FUNCTION(ddIsOnuPotsTypeSupportedByName),
+    FUNCTION(ddIsOnuPotsTypeSupportedByType),
+    FUNCTION(ddIsOnuSpecialPortTypeSupportedByName),
+    FUNCTION(ddIsOnuSpecialPortTypeSupportedByType),
+    FUNCTION(ddReadAllSupportedOnuLanInformation),
+    FUNCTION(ddReadAllSupportedOnuPonInformation),
+    FUNCTION(ddReadAllSupportedOnuPotsInformation),
+    FUNCTION(ddReadAllSupportedOnuSpecialPortInformation),
+    FUNCTION(ddReadOneSupportedOnuLanInformation),
+    FUNCTION(ddReadOneSupportedOnuPonInformation),
+    FUNCTION(ddReadOneSupportedOnuPotsInformation),
+    FUNCTION(ddReadOneSupportedOnuSpecialPortInformation),
+    FUNCTION(ddAddSupportedLanToOnuObj),
+    FUNCTION(ddAddSupportedPonToOnuObj),
+    FUNCTION(ddAddSupportedPotsToOnuObj),
+    FUNCTION(ddAddSupportedSpecialPortToOnuObj),
+    FUNCTION(ddCheckSupportedOnuTypeNum),
+    FUNCTION(ddFindSupportedOnuMaxLanNum),
+    FUNCTION(ddFreeOneOnuAllObj),
+    FUNCTION(ddReadAllSupportedOnuInformation),
+    FUNCTION(ddReadOneSupportedOnuInformation),
+    FUNCTION(ddGetAllSupportedOnuType),
+    FUNCTION(ddGetOnuLanPortNumByType),
+    FUNCTION(ddGetOnuLanPortTypeByType),
+    FUNCTION(ddGetOnuNameByType),
+    FUNCTION(ddGetOnuPonNumByType),
+    FUNCTION(ddGetOnuPonPortTypeByType),
+    FUNCTION(ddGetOnuPotsPortNumByType),
+    FUNCTION(ddGetOnuPotsPortTypeByType),
+    FUNCTION(ddGetOnuSpecialPortAmount),
+    FUNCTION(ddGetOnuSpecialPortNumByType),
+    FUNCTION(ddGetOnuSpecialPortTypeByPortNo),
+    FUNCTION(ddGetOnuSpecialPortTypeList),
+    FUNCTION(ddGetOnuTypeByName),
+    FUNCTION(ddGetSupportedOnuMaxLanNum),
+    FUNCTION(ddIsOnuSupportedByType),
     FUNCTION(ddCmdInit),
     FUNCTION(ddShowAllBoardInfo_Func),
+    FUNCTION(ddShowAllDevice_Func),
     FUNCTION(ddShowAllModuleInfo_Func),
+    FUNCTION(ddShowAllSupportedOnuType_Func),
+    FUNCTION(ddShowAllSupportedOnu_Func),
     FUNCTION(ddShowFrameInfo_Func),
     FUNCTION(ddShowMainBoardInfo_Func),
     FUNCTION(ddShowOltPortInfo_Func),
+    FUNCTION(ddShowOneSupportedOnuInfo_Func),
+    FUNCTION(ddShowOnuLanInfo_Func),
+    FUNCTION(ddShowOnuPonInfo_Func),
+    FUNCTION(ddShowOnuPotsInfo_Func),
+    FUNCTION(ddShowOnuSpecialPortInfo_Func),
     FUNCTION(ddShowSysSupportFuncInfo_Func),
     FUNCTION(ddShowVersionInfo_Func),
+    FUNCTION(ddPrintAllContextInformation),
     FUNCTION(ddPrintAllModuleInformation),
     FUNCTION(ddPrintAllSupportedBoardInfomation),
     FUNCTION(ddPrintAllSupportedMainBoardInformation),
     FUNCTION(ddPrintAllSupportedOltPortInfomation),
+    FUNCTION(ddPrintAllSupportedOnuLanInfomation),
+    FUNCTION(ddPrintAllSupportedOnuPonInfomation),
+    FUNCTION(ddPrintAllSupportedOnuPotsInfomation),
+    FUNCTION(ddPrintAllSupportedOnuSpecialPortInfomation),
+    FUNCTION(ddPrintAllSupportedOnuTypeBaseInfomation),
+    FUNCTION(ddPrintAllSupportedOnuTypeInfomation),
     FUNCTION(ddPrintFrameInfomation),
     FUNCTION(ddPrintOneSupportedBoardInfomation),
+    FUNCTION(ddPrintOneSupportedOnuInfomation),
     FUNCTION(ddPrintSlotClassInformation),
     FUNCTION(ddPrintSysSupportFuncInformation),
     FUNCTION(ddPrintVersionInformation),
@@ -217,11 +279,24 @@ static const struct {
     VARIABLE(dd_gstrKeyFrameType),
     VARIABLE(dd_gstrSectionFrameInfomation),
     VARIABLE(gstFrame),
+    VARIABLE(gstSupportedOnuLanType),
+    VARIABLE(gstSupportedOnuPonType),
+    VARIABLE(gstSupportedOnuPotsType),
+    VARIABLE(gstSupportedOnuSpecialPortType),
+    VARIABLE(gstSupportedOnuType),
     VARIABLE(ddShowAllBoardInfo_CMD),
+    VARIABLE(ddShowAllDevice_CMD),
     VARIABLE(ddShowAllModuleInfo_CMD),
+    VARIABLE(ddShowAllSupportedOnuType_CMD),
+    VARIABLE(ddShowAllSupportedOnu_CMD),
     VARIABLE(ddShowFrameInfo_CMD),
     VARIABLE(ddShowMainBoardInfo_CMD),
     VARIABLE(ddShowOltPortInfo_CMD),
+    VARIABLE(ddShowOneSupportedOnuInfo_CMD),
+    VARIABLE(ddShowOnuLanInfo_CMD),
+    VARIABLE(ddShowOnuPonInfo_CMD),
+    VARIABLE(ddShowOnuPotsInfo_CMD),
+    VARIABLE(ddShowOnuSpecialPortInfo_CMD),
     VARIABLE(ddShowSysSupportFuncInfo_CMD),
     VARIABLE(ddShowVersionInfo_CMD),
 };
@@ -304,6 +379,18 @@ static void variables_have_their_first_values(void) {
   CHECK(gstSupportedBoardType.ulSupportedBoardMaxPonType == 0);
   CHECK(gstSupportedBoardType.ulSupportedBoardMaxPonNum == 0);
   CHECK(gstFrame.ulNameLen == 0 && gstFrame.pstSlotArray == NULL);
+  CHECK(gstSupportedOnuPonType.ulSupportedOnuPonTypeNum == 0);
+  CHECK(gstSupportedOnuPonType.pOnuPonTypeArray == NULL);
+  CHECK(gstSupportedOnuLanType.ulSupportedOnuLanTypeNum == 0);
+  CHECK(gstSupportedOnuLanType.pOnuLanTypeArray == NULL);
+  CHECK(gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum == 0);
+  CHECK(gstSupportedOnuPotsType.pOnuPotsTypeArray == NULL);
+  CHECK(gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum == 0);
+  CHECK(gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray == NULL);
+  CHECK(gstSupportedOnuType.ulSupportedOnuTypeNum == 0);
+  CHECK(gstSupportedOnuType.pOnuTypeArray == NULL);
+  CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType == 0);
+  CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanNum == 0);
   CHECK(strcmp(dd_gstrSectionFrameInfomation, "FrameInfomation") == 0);
   CHECK(strcmp(dd_gstrKeyFrameName, "Name") == 0);
   CHECK(strcmp(dd_gstrKeyFrameType, "Type") == 0);
@@ -346,7 +433,21 @@ static void the_library_starts(void) {
       "SupportedBoardTypeSlot1 = MCXA\nSupportedBoardTypeSlot2 = GP02A\n"
       "SwitchChipLogicPortNum = 2\nSwitchChipLogicPort1 = 2,0,0\nSwitchChipLogicPort2 = 2,4,0\n"
       "Type2SwitchChipLogicPortNum = 2\nType2SwitchChipLogicPort1 = 2,4,0,31,0\n"
-      "Type2SwitchChipLogicPort2 = 2,4,1,31,1\n");
+      "Type2SwitchChipLogicPort2 = 2,4,1,31,1\n"
+      "[SupportedOnuPonType]\nSupportedOnuPonTypeNum = 1\nSupportedOnuPonType1 = OnuPon_GPON\n"
+      "[OnuPon_GPON]\nType = 2\nName = GPON\n"
+      "[SupportedOnuLanType]\nSupportedOnuLanTypeNum = 1\nSupportedOnuLanType1 = OnuLan_GE\n"
+      "[OnuLan_GE]\nType = 3\nName = GE\n"
+      "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum = 1\nSupportedOnuPotsType1 = OnuPots_FXS\n"
+      "[OnuPots_FXS]\nType = 4\nName = FXS\n"
+      "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum = 1\n"
+      "SupportedOnuSpecialPortType1 = OnuSpecial_CATV\n"
+      "[OnuSpecial_CATV]\nType = 5\nName = CATV\n"
+      "[SupportedOnuType]\nSupportedOnuTypeNum = 1\nSupportedOnuType1 = Onu_KT-G104\n"
+      "[Onu_KT-G104]\nType = 6003\nName = KT-G104\nPonNum = 1\nNameKeyPon1 = GPON\n"
+      "LanPortNum = 2\nNameKeyLanPort1 = GE\nNameKeyLanPort2 = GE\n"
+      "PotsPortNum = 1\nNameKeyPotsPort1 = FXS\n"
+      "SpecialPortNum = 1\nNameKeySpecialPort1 = CATV\n");
   platform.pon_card = 3102;
   platform.uplink_card = 3102;
   platform.device_type = 17;
@@ -361,6 +462,16 @@ static void the_library_starts(void) {
   CHECK(gstSupportedMainBoardType.ulSupportedBoardTypeNum == 1);
   CHECK(gstSupportedBoardType.ulSupportedBoardTypeNum == 1);
   CHECK(gstFrame.ulSwitchChipLogicPortNum == 2);
+  CHECK(gstSupportedOnuPonType.ulSupportedOnuPonTypeNum == 1);
+  CHECK(gstSupportedOnuPonType.pOnuPonTypeArray[0]->ulPonType == 2);
+  CHECK(gstSupportedOnuLanType.ulSupportedOnuLanTypeNum == 1);
+  CHECK(gstSupportedOnuLanType.pOnuLanTypeArray[0]->ulLanType == 3);
+  CHECK(gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum == 1);
+  CHECK(gstSupportedOnuPotsType.pOnuPotsTypeArray[0]->ulPortType == 4);
+  CHECK(gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum == 1);
+  CHECK(gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray[0]->ulPortType == 5);
+  CHECK(gstSupportedOnuType.ulSupportedOnuTypeNum == 1);
+  CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType == 6003);
 }
 
 static void queries_are_answered(void) {
@@ -417,6 +528,45 @@ static void logic_ports_are_answered(void) {
   CHECK(ddRunGetSwitchChipLogicPortFromPhyPort(9, &number) == -22);
 }
 
+static void onu_queries_are_answered(void) {
+  char name[MAX_ONU_NAME_LEN];
+  uint32_t types[MAX_ONU_SPECIAL_PORT_NUM_PER_ONU] = {0};
+  uint32_t number = 0;
+  CHECK(ddGetOnuNameByType(6003, name) == 0 && strcmp(name, "KT-G104") == 0);
+  CHECK(ddGetOnuTypeByName("KT-G104", &number) == 0 && number == 6003);
+  CHECK(ddGetOnuLanPortNumByType(6003, &number) == 0 && number == 2);
+  CHECK(ddGetOnuLanPortTypeByType(6003, 2, &number) == 0 && number == 3);
+  CHECK(ddGetOnuPotsPortTypeByType(6003, 1, &number) == 0 && number == 4);
+  CHECK(ddGetOnuSpecialPortTypeList(6003, types, COUNT(types), &number) == 0);
+  CHECK(number == 1 && types[0] == 5);
+  number = 0;
+  CHECK(ddGetAllSupportedOnuType(&number, types) == 0 && number == 1 && types[0] == 6003);
+}
+
+/* Of types that the definition file does not know. */
+static void the_host_answers_for_other_onu_types(void) {
+  char name[MAX_ONU_NAME_LEN];
+  uint32_t number = 0;
+  platform.onu_number = 3;
+  CHECK(ddGetOnuPonNumByType(9001, &number) == 0 && number == 3);
+  CHECK(ddGetOnuPonNumByType(9002, &number) == -20 && number == 0);
+  CHECK(ddGetOnuNameByType(9001, name) == 0 && strcmp(name, "OnuOfTheHost") == 0);
+  CHECK(ddGetOnuTypeByName("OnuOfTheHost", &number) == 0 && number == 9001);
+  CHECK(ddGetSupportedOnuMaxLanNum(&number) == 0 && number == 3);
+}
+
+static void records_of_onus_can_be_freed_by_the_host(void) {
+  OnuInformation* onu = NULL;
+  OnuPortTypeInformation* type = NULL;
+  CHECK(ddReadOneSupportedOnuInformation("/mnt/work/device_definition.ini", "Onu_KT-G104", 0,
+                                         &onu) == 0);
+  CHECK(onu != NULL && onu->ulTotalLanPortNum == 2);
+  CHECK(ddFreeOneOnuAllObj(onu) == 0);
+  CHECK(ddCreateOneOnuPotsObjByName("FXS", &type) == 0);
+  CHECK(type != NULL && type->ulPortType == 4);
+  free(type);
+}
+
 static void a_board_can_be_freed_by_the_host(void) {
   BoardInformation* board = NULL;
   CHECK(ddReadOneSupportedBoardInformation("/mnt/work/device_definition.ini", "Board_GP02A", 0,
@@ -428,8 +578,9 @@ static void a_board_can_be_freed_by_the_host(void) {
 static void commands_are_installed(void) {
   int terminal = 0;
   CHECK(platform.registered == 1 && platform.versions == 1);
-  CHECK(platform.installed == 7);
+  CHECK(platform.installed == 15);
   CHECK(platform.records[6] == &ddShowFrameInfo_CMD);
+  CHECK(platform.records[14] == &ddShowAllDevice_CMD);
   CHECK(platform.records[0] == &ddShowVersionInfo_CMD);
   CommandRecord* const record = platform.records[2];
   CHECK(strcmp(record->string, "show context sys_support_func") == 0);
@@ -467,6 +618,35 @@ static void slots_are_shown(void) {
                "\r\nucSlotArray = 1, 2, \r\n") == 0);
 }
 
+static void onu_types_are_shown(void) {
+  int terminal = 0;
+  char index[] = "0";
+  char* words[] = {index, NULL};
+  platform.terminal[0] = '\0';
+  CommandRecord* const record = platform.records[12];
+  CHECK(strcmp(record->string, "show context onu_detail index <indexno>") == 0);
+  CHECK(record->func(record, &terminal, 1, words) == 0);
+  CHECK(platform.terminal_used == &terminal);
+  CHECK(strcmp(platform.terminal,
+               "\r\nSupportedOneOnuInformation: KT-G104"
+               "\r\nulOnuType = 6003, ulNameLen = 8, acName = KT-G104, ulTotalPonNum = 1, "
+               "ulTotalLanPortNum = 2, ulTotalPotsNum = 1, ulTotalSpecialPortNum = 1"
+               "\r\nOnu PON: 1 PON\r\n   0. ulPonType =   2, ulNameLen = 5, acName = GPON"
+               "\r\nOnu LAN: 2 LAN\r\n   0. ulLanPortType =   3, ulNameLen =  3, acName = GE"
+               "\r\n   1. ulLanPortType =   3, ulNameLen =  3, acName = GE"
+               "\r\nOnu POTS: 1 POTS\r\n   0. ulPotsPortType =   4, ulNameLen =  4, acName = FXS"
+               "\r\nOnu special port: 1 special port"
+               "\r\n   0. ulSpecialPortType =   5, ulNameLen =  5, acName = CATV\r\n") == 0);
+}
+
+static void every_table_is_shown(void) {
+  int terminal = 0;
+  platform.terminal[0] = '\0';
+  CHECK(ddPrintAllContextInformation(&terminal) == 0);
+  CHECK(strstr(platform.terminal, "\r\nAll Onu detail information:") != NULL);
+  CHECK(strstr(platform.terminal, "System device describe end!") != NULL);
+}
+
 static void hooks_do_nothing(void) {
   CHECK(context_module_init() == 0);
   CHECK(context_cmd_module_init() == 0);
@@ -486,10 +666,15 @@ int main(int argc, char** argv) {
   olt_queries_are_answered();
   frame_queries_are_answered();
   logic_ports_are_answered();
+  onu_queries_are_answered();
+  the_host_answers_for_other_onu_types();
   a_board_can_be_freed_by_the_host();
+  records_of_onus_can_be_freed_by_the_host();
   commands_are_installed();
   boards_are_shown();
   slots_are_shown();
+  onu_types_are_shown();
+  every_table_is_shown();
   hooks_do_nothing();
   return failures() == 0 ? 0 : 1;
 }

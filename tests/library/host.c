@@ -153,3 +153,88 @@ int32_t get_core_card_self_cardnumber(void) {
 int32_t get_core_card_detect_type(void) {
   return 101;
 }
+
+/* The ONU type service: it knows type 9001, and answers all that it is asked of it
+ * with platform.onu_number. */
+
+static int32_t onu_answer(uint32_t type, uint32_t* result) {
+  if (type != 9001) {
+    return -1;
+  }
+  *result = platform.onu_number;
+  return 0;
+}
+
+int32_t cs_get_onu_pon_num_by_type(uint32_t type, uint32_t* result) {
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_lan_port_num_by_type(uint32_t type, uint32_t* result) {
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_pots_port_num_by_type(uint32_t type, uint32_t* result) {
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_special_port_amount(uint32_t type, uint32_t* result) {
+  return onu_answer(type, result);
+}
+
+int32_t cs_is_onu_supported_by_type(uint32_t type, uint32_t* result) {
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_pon_port_type_by_type(uint32_t type, uint32_t port, uint32_t* result) {
+  (void)port;
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_lan_port_type_by_type(uint32_t type, uint32_t port, uint32_t* result) {
+  (void)port;
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_pots_port_type_by_type(uint32_t type, uint32_t port, uint32_t* result) {
+  (void)port;
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_special_port_num_by_type(uint32_t type, uint32_t portType, uint32_t* result) {
+  (void)portType;
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_special_port_type_by_port_no(uint32_t type, uint32_t port, uint32_t* result) {
+  (void)port;
+  return onu_answer(type, result);
+}
+
+int32_t cs_get_onu_special_port_type_list(uint32_t type, uint32_t* array, uint32_t arrayAmount,
+                                          uint32_t* amount) {
+  if (arrayAmount == 0 || onu_answer(type, array) != 0) {
+    return -1;
+  }
+  *amount = 1;
+  return 0;
+}
+
+int32_t cs_get_onu_name_by_type(uint32_t type, char* name) {
+  if (type != 9001) {
+    return -1;
+  }
+  strcpy(name, "OnuOfTheHost");
+  return 0;
+}
+
+int32_t cs_get_onu_type_by_name(const char* name, uint32_t* result) {
+  if (strcmp(name, "OnuOfTheHost") != 0) {
+    return -1;
+  }
+  *result = 9001;
+  return 0;
+}
+
+int32_t cs_get_supported_onu_max_lan_num(uint32_t* result) {
+  return onu_answer(9001, result);
+}

@@ -32,6 +32,7 @@ struct Platform {
   int16_t pon_card;    /* the card type that is a PON card; 0: none is */
   int16_t uplink_card; /* the one that is an uplink card, and configured for every slot */
   int32_t device_type;
+  uint32_t onu_number; /* what the ONU type service answers for type 9001 */
 };
 extern struct Platform platform;
 

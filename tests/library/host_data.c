@@ -11,6 +11,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 #if OWN_DATA
 int32_t ddDebugPrint = 1;
@@ -90,6 +91,40 @@ static void a_written_frame_is_seen(void) {
   CHECK(is_higigport_balance_switch_logicport(201, &number) == 0 && number == 1);
 }
 
+static void written_onu_tables_are_seen(void) {
+  static OnuPortTypeInformation pon = {.ulPonType = 2, .ulNameLen = 5, .acName = "GPON"};
+  static OnuPortTypeInformation lan = {.ulLanType = 3, .ulNameLen = 3, .acName = "GE"};
+  static OnuPortTypeInformation pots = {.ulPortType = 4, .ulNameLen = 4, .acName = "FXS"};
+  static OnuPortTypeInformation special = {.ulPortType = 5, .ulNameLen = 5, .acName = "CATV"};
+  static OnuPortTypeInformation* pons[] = {&lan, &pon};
+  static OnuPortTypeInformation* lans[] = {&lan};
+  static OnuPortTypeInformation* all_pots[] = {NULL, NULL, &pots};
+  static OnuPortTypeInformation* specials[] = {NULL, &special};
+  static OnuInformation onu = {
+      .ulOnuType = 6003, .ulNameLen = 8, .acName = "KT-G104", .ulTotalLanPortNum = 7};
+  static OnuInformation* onus[] = {&onu};
+  uint32_t number = 0;
+  uint32_t place = 0;
+  gstSupportedOnuPonType.ulSupportedOnuPonTypeNum = 2;
+  gstSupportedOnuPonType.pOnuPonTypeArray = pons;
+  gstSupportedOnuLanType.ulSupportedOnuLanTypeNum = 1;
+  gstSupportedOnuLanType.pOnuLanTypeArray = lans;
+  gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum = 3;
+  gstSupportedOnuPotsType.pOnuPotsTypeArray = all_pots;
+  gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum = 2;
+  gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray = specials;
+  gstSupportedOnuType.ulSupportedOnuTypeNum = 1;
+  gstSupportedOnuType.pOnuTypeArray = onus;
+  CHECK(ddIsOnuPonTypeSupportedByName("GPON", &number, &place) == 0 && place == 1);
+  CHECK(ddIsOnuLanTypeSupportedByType(3, &number, &place) == 0 && place == 0);
+  CHECK(ddIsOnuPotsTypeSupportedByName("FXS", &number, &place) == 0 && place == 2);
+  CHECK(ddIsOnuSpecialPortTypeSupportedByType(5, &number, &place) == 0 && place == 1);
+  CHECK(ddGetOnuTypeByName("KT-G104", &number) == 0 && number == 6003);
+  CHECK(ddFindSupportedOnuMaxLanNum() == 0);
+  CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType == 6003);
+  CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanNum == 7);
+}
+
 static void loaded_tables_are_seen(void) {
   set_definition_file(
       "[Version]\nSupportedSoftwareVer=HostV2\n"
@@ -106,7 +141,18 @@ static void loaded_tables_are_seen(void) {
       "[KT3300-L_FrameInfomation]\nKind=15\nLabel=KT\nMaxOnuNum=1\nMaxUserNum=2\n"
       "RealSlotNum=1\nRealSlotList=3\nVirtualSlotNum=0\nHcuSlotNum=0\nFanSlotNum=0\nCioSlotNum=0\n"
       "PowerSlotNum=0\nServeBoardSlotNum=0\nMainSlotNum=0\nUplinkSlotNum=0\n"
-      "SupportedBoardTypeSlot3=FANA\nSwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n");
+      "SupportedBoardTypeSlot3=FANA\nSwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n"
+      "[SupportedOnuPonType]\nSupportedOnuPonTypeNum=1\nSupportedOnuPonType1=OP\n"
+      "[OP]\nType=21\nName=XGSPON\n"
+      "[SupportedOnuLanType]\nSupportedOnuLanTypeNum=1\nSupportedOnuLanType1=OL\n"
+      "[OL]\nType=22\nName=FE\n"
+      "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum=1\nSupportedOnuPotsType1=OT\n"
+      "[OT]\nType=23\nName=FXS\n"
+      "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum=1\n"
+      "SupportedOnuSpecialPortType1=OS\n[OS]\nType=24\nName=USB\n"
+      "[SupportedOnuType]\nSupportedOnuTypeNum=1\nSupportedOnuType1=O\n"
+      "[O]\nType=6301\nName=KT-S101\nPonNum=1\nNameKeyPon1=XGSPON\n"
+      "LanPortNum=0\nPotsPortNum=0\nSpecialPortNum=0\n");
   platform.device_type = 15;
   dd_gstrKeyFrameType = "Kind";
   dd_gstrKeyFrameName = "Label";
@@ -120,6 +166,15 @@ static void loaded_tables_are_seen(void) {
   CHECK(gstSupportedBoardType.pBoardTypeArray[0]->ulType == 3411);
   CHECK(gstFrame.eType == 15 && strcmp(gstFrame.acName, "KT") == 0);
   CHECK(gstFrame.pstSlotArray[3].aulBoardType[0] == 3411);
+  CHECK(gstSupportedOnuPonType.ulSupportedOnuPonTypeNum == 1);
+  CHECK(gstSupportedOnuPonType.pOnuPonTypeArray[0]->ulPonType == 21);
+  CHECK(gstSupportedOnuLanType.pOnuLanTypeArray[0]->ulLanType == 22);
+  CHECK(gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum == 1);
+  CHECK(gstSupportedOnuPotsType.pOnuPotsTypeArray[0]->ulPortType == 23);
+  CHECK(gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum == 1);
+  CHECK(gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray[0]->ulPortType == 24);
+  CHECK(gstSupportedOnuType.pOnuTypeArray[0]->ulOnuType == 6301);
+  CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanNum == 0);
 }
 
 int main(void) {
@@ -140,6 +195,7 @@ int main(void) {
   written_tables_are_seen();
   written_olt_tables_are_seen();
   a_written_frame_is_seen();
+  written_onu_tables_are_seen();
   loaded_tables_are_seen();
   return failures() == 0 ? 0 : 1;
 }

@@ -8,6 +8,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 #include "sys_context/platform.h"
 
 static_assert(sizeof(SupportedSoftVer) == 104);
@@ -83,6 +84,14 @@ static_assert(offsetof(BalanceSwitchLogicPortInfo, usChipPort) == 2);
 static_assert(offsetof(BalanceSwitchLogicPortInfo, usPhyPort) == 4);
 static_assert(offsetof(BalanceSwitchLogicPortInfo, ucHigigFlag) == 6);
 
+static_assert(sizeof(OnuPortTypeInformation) == 68);
+static_assert(offsetof(OnuPortTypeInformation, ulPonType) == 0);
+static_assert(offsetof(OnuPortTypeInformation, ulLanType) == 0);
+static_assert(offsetof(OnuPortTypeInformation, ulPortType) == 0);
+static_assert(offsetof(OnuPortTypeInformation, ulNameLen) == 4);
+static_assert(offsetof(OnuPortTypeInformation, acName) == 8);
+static_assert(sizeof(OnuPortTypeInformation::acName) == 60);
+
 constexpr bool kOnCard = sizeof(void*) == 4;
 
 static_assert(!kOnCard || sizeof(SupportedOltPortType) == 8);
@@ -135,6 +144,43 @@ static_assert(!kOnCard || offsetof(FrameInformation, ulType2SwitchChipLogicPortN
 static_assert(!kOnCard || offsetof(FrameInformation, astType2SwitchChipLogicPort) == 7636);
 static_assert(sizeof(FrameInformation::astType2SwitchChipLogicPort) == 10240);
 
+static_assert(!kOnCard || sizeof(SupportedOnuPonType) == 8);
+static_assert(!kOnCard || offsetof(SupportedOnuPonType, ulSupportedOnuPonTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedOnuPonType, pOnuPonTypeArray) == 4);
+
+static_assert(!kOnCard || sizeof(SupportedOnuLanType) == 8);
+static_assert(!kOnCard || offsetof(SupportedOnuLanType, ulSupportedOnuLanTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedOnuLanType, pOnuLanTypeArray) == 4);
+
+static_assert(!kOnCard || sizeof(SupportedOnuPotsType) == 8);
+static_assert(!kOnCard || offsetof(SupportedOnuPotsType, ulSupportedOnuPotsTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedOnuPotsType, pOnuPotsTypeArray) == 4);
+
+static_assert(!kOnCard || sizeof(SupportedOnuSpecialPortType) == 8);
+static_assert(!kOnCard ||
+              offsetof(SupportedOnuSpecialPortType, ulSupportedOnuSpecialPortTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedOnuSpecialPortType, pOnuSpecialPortTypeArray) == 4);
+
+static_assert(!kOnCard || sizeof(OnuInformation) == 100);
+static_assert(!kOnCard || offsetof(OnuInformation, ulOnuType) == 0);
+static_assert(!kOnCard || offsetof(OnuInformation, ulNameLen) == 4);
+static_assert(!kOnCard || offsetof(OnuInformation, acName) == 8);
+static_assert(sizeof(OnuInformation::acName) == 60);
+static_assert(!kOnCard || offsetof(OnuInformation, ulTotalPonNum) == 68);
+static_assert(!kOnCard || offsetof(OnuInformation, pOnuPonArray) == 72);
+static_assert(!kOnCard || offsetof(OnuInformation, ulTotalLanPortNum) == 76);
+static_assert(!kOnCard || offsetof(OnuInformation, pOnuLanPortArray) == 80);
+static_assert(!kOnCard || offsetof(OnuInformation, ulTotalPotsNum) == 84);
+static_assert(!kOnCard || offsetof(OnuInformation, pOnuPotsPortArray) == 88);
+static_assert(!kOnCard || offsetof(OnuInformation, ulTotalSpecialPortNum) == 92);
+static_assert(!kOnCard || offsetof(OnuInformation, pOnuSpecialPortArray) == 96);
+
+static_assert(!kOnCard || sizeof(SupportedOnuType) == 16);
+static_assert(!kOnCard || offsetof(SupportedOnuType, ulSupportedOnuTypeNum) == 0);
+static_assert(!kOnCard || offsetof(SupportedOnuType, pOnuTypeArray) == 4);
+static_assert(!kOnCard || offsetof(SupportedOnuType, ulSupportedOnuMaxLanOnuType) == 8);
+static_assert(!kOnCard || offsetof(SupportedOnuType, ulSupportedOnuMaxLanNum) == 12);
+
 static_assert(!kOnCard || sizeof(ModuleTypeList) == 8);
 static_assert(!kOnCard || offsetof(ModuleTypeList, ulModuleTypeNum) == 0);
 static_assert(!kOnCard || offsetof(ModuleTypeList, pModuleTypeArray) == 4);
@@ -166,3 +212,13 @@ static_assert(MAX_USER_NUM_PER_FRAME == 2400000);
 static_assert(MAX_SLOT_END == 100);
 static_assert(MAX_BOARD_TYPE_NUM_PER_SLOT == 100);
 static_assert(MAX_TYPEB_SWITCH_CHIP_LOGIC_PORT_NUM == 128);
+static_assert(MAX_ONU_PON_TYPE_NUM == 30);
+static_assert(MAX_ONU_LAN_TYPE_NUM == 30);
+static_assert(MAX_ONU_POTS_TYPE_NUM == 30);
+static_assert(MAX_ONU_SPECIAL_PORT_TYPE_NUM == 30);
+static_assert(MAX_ONU_NAME_LEN == 60);
+static_assert(MAX_ONU_TYPE_NUM == 200);
+static_assert(MAX_ONU_PON_NUM_PER_ONU == 5);
+static_assert(MAX_ONU_LAN_NUM_PER_ONU == 100);
+static_assert(MAX_ONU_POTS_NUM_PER_ONU == 100);
+static_assert(MAX_ONU_SPECIAL_PORT_NUM_PER_ONU == 100);

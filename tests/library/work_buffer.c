@@ -114,7 +114,18 @@ static void around_a_good_parse(void) {
       "[KT3300-L_FrameInfomation]\nType=15\nName=F\nMaxOnuNum=1\nMaxUserNum=2\n"
       "RealSlotNum=1\nRealSlotList=1\nVirtualSlotNum=0\nHcuSlotNum=0\nFanSlotNum=0\nCioSlotNum=0\n"
       "PowerSlotNum=0\nServeBoardSlotNum=0\nMainSlotNum=0\nUplinkSlotNum=0\n"
-      "SupportedBoardTypeSlot1=PWDA\nSwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n");
+      "SupportedBoardTypeSlot1=PWDA\nSwitchChipLogicPortNum=0\nType2SwitchChipLogicPortNum=0\n"
+      "[SupportedOnuPonType]\nSupportedOnuPonTypeNum=1\nSupportedOnuPonType1=OP\n"
+      "[OP]\nType=2\nName=GPON\n"
+      "[SupportedOnuLanType]\nSupportedOnuLanTypeNum=1\nSupportedOnuLanType1=OL\n"
+      "[OL]\nType=2\nName=GE\n"
+      "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum=1\nSupportedOnuPotsType1=OT\n"
+      "[OT]\nType=1\nName=FXS\n"
+      "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum=1\n"
+      "SupportedOnuSpecialPortType1=OS\n[OS]\nType=1\nName=CATV\n"
+      "[SupportedOnuType]\nSupportedOnuTypeNum=1\nSupportedOnuType1=O\n"
+      "[O]\nType=6001\nName=KT-G101\nPonNum=1\nNameKeyPon1=GPON\n"
+      "LanPortNum=0\nPotsPortNum=0\nSpecialPortNum=0\n");
   platform.device_type = 15;
   const int before = files_opened();
   catch_console();

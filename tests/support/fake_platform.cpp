@@ -1,8 +1,10 @@
 // The platform functions that the library calls so far, over FakePlatform.
 #include "support/fake_platform.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
 
 namespace test {
 
@@ -28,6 +30,15 @@ void NoteQuestion(const std::string& question) {
 int32_t AnswerKind(const char* kind, const std::set<int16_t>& cards, int16_t card_type) {
   NoteQuestion(std::string(kind) + " " + std::to_string(card_type));
   return cards.count(card_type) != 0 ? 0 : FakePlatform::Get().not_of_that_kind;
+}
+
+int32_t AnswerOnuNumber(const std::string& question, uint32_t* result) {
+  NoteQuestion(question);
+  const FakePlatform& platform = FakePlatform::Get();
+  if (platform.onu_stores) {
+    *result = platform.onu_number;
+  }
+  return platform.onu_result;
 }
 
 }  // namespace
@@ -108,4 +119,54 @@ int32_t get_core_card_self_cardnumber() {
 int32_t get_core_card_detect_type() {
   test::NoteQuestion("main card");
   return FakePlatform::Get().main_card;
+}
+
+#define ANSWER_FOR_TYPE(function)                                                            \
+  int32_t function(uint32_t type, uint32_t* result) {                                        \
+    return test::AnswerOnuNumber(std::string(#function " ") + std::to_string(type), result); \
+  }
+ANSWER_FOR_TYPE(cs_get_onu_pon_num_by_type)
+ANSWER_FOR_TYPE(cs_get_onu_lan_port_num_by_type)
+ANSWER_FOR_TYPE(cs_get_onu_pots_port_num_by_type)
+ANSWER_FOR_TYPE(cs_get_onu_special_port_amount)
+ANSWER_FOR_TYPE(cs_is_onu_supported_by_type)
+
+#define ANSWER_FOR_TYPE_AND_NUMBER(function)                                                       \
+  int32_t function(uint32_t type, uint32_t number, uint32_t* result) {                             \
+    return test::AnswerOnuNumber(                                                                  \
+        std::string(#function " ") + std::to_string(type) + " " + std::to_string(number), result); \
+  }
+ANSWER_FOR_TYPE_AND_NUMBER(cs_get_onu_pon_port_type_by_type)
+ANSWER_FOR_TYPE_AND_NUMBER(cs_get_onu_lan_port_type_by_type)
+ANSWER_FOR_TYPE_AND_NUMBER(cs_get_onu_pots_port_type_by_type)
+ANSWER_FOR_TYPE_AND_NUMBER(cs_get_onu_special_port_num_by_type)
+ANSWER_FOR_TYPE_AND_NUMBER(cs_get_onu_special_port_type_by_port_no)
+
+int32_t cs_get_onu_special_port_type_list(uint32_t type, uint32_t* array, uint32_t arrayAmount,
+                                          uint32_t* amount) {
+  test::NoteQuestion("cs_get_onu_special_port_type_list " + std::to_string(type) + " " +
+                     std::to_string(arrayAmount));
+  const FakePlatform& platform = FakePlatform::Get();
+  if (platform.onu_stores) {
+    std::copy(platform.onu_list.begin(), platform.onu_list.end(), array);
+    *amount = static_cast<uint32_t>(platform.onu_list.size());
+  }
+  return platform.onu_result;
+}
+
+int32_t cs_get_onu_name_by_type(uint32_t type, char* name) {
+  test::NoteQuestion("cs_get_onu_name_by_type " + std::to_string(type));
+  const FakePlatform& platform = FakePlatform::Get();
+  if (!platform.onu_name.empty()) {
+    std::memcpy(name, platform.onu_name.c_str(), platform.onu_name.size() + 1);
+  }
+  return platform.onu_result;
+}
+
+int32_t cs_get_onu_type_by_name(const char* name, uint32_t* result) {
+  return test::AnswerOnuNumber(std::string("cs_get_onu_type_by_name ") + name, result);
+}
+
+int32_t cs_get_supported_onu_max_lan_num(uint32_t* result) {
+  return test::AnswerOnuNumber("cs_get_supported_onu_max_lan_num", result);
 }

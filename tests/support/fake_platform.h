@@ -64,6 +64,16 @@ struct FakePlatform {
   std::map<uint32_t, int32_t> configured_cards;
   int32_t no_card = -1;
   std::vector<std::string> asked;
+
+  // The ONU type service: whatever it is asked, it returns `onu_result` and stores its
+  // answer first, also when it fails: the number, or the name or list if it is asked
+  // for one. `asked` names every call with its arguments: "cs_get_onu_pon_num_by_type
+  // 9001", "cs_get_onu_type_by_name KT-G101", "cs_get_supported_onu_max_lan_num".
+  int32_t onu_result = -1;
+  uint32_t onu_number = 0;
+  std::string onu_name;            // "": stores none
+  std::vector<uint32_t> onu_list;  // its length is the amount stored
+  bool onu_stores = true;          // false: stores nothing
 };
 
 }  // namespace test

@@ -1,6 +1,7 @@
 // Stand-ins for functions of the C library; see the header.
 #include "support/faults.h"
 
+#include <gtest/gtest.h>
 #include <sys/types.h>
 
 #include <algorithm>
@@ -94,6 +95,11 @@ Faults::Faults() {
 }
 Faults::~Faults() {
   current = nullptr;
+}
+
+void ExpectAllClosed(const Faults& faults) {
+  EXPECT_EQ(faults.closes, faults.opens.count());
+  EXPECT_EQ(faults.seeks.count(), faults.opens.count());
 }
 
 }  // namespace test

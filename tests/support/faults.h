@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <map>
+#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -64,5 +65,22 @@ struct Faults {
   // Called when a block of the library is freed, before that is done.
   void (*on_free)(void* block, size_t size) = nullptr;
 };
+
+// A way in which a file fails, and the code of the lookup that meets it.
+struct FileFault {
+  const char* name;
+  FaultPlan Faults::*plan;
+  const char* code;
+  int not_closed;  // streams that a failing call leaves unopened
+  friend std::ostream& operator<<(std::ostream& out, const FileFault& fault) {
+    return out << fault.name;
+  }
+};
+inline constexpr FileFault kOpenFails = {"Open", &Faults::opens, "-10", 1};
+inline constexpr FileFault kSeekFails = {"Seek", &Faults::seeks, "-12", 0};
+inline constexpr FileFault kReadFails = {"Read", &Faults::reads, "-12", 0};
+
+// Each lookup opens the file, seeks its position once, and closes it.
+void ExpectAllClosed(const Faults& faults);
 
 }  // namespace test

@@ -8,6 +8,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace test {
 namespace {
@@ -45,6 +46,24 @@ Blocks ReachableBlocks() {
     }
   }
   Add(blocks, gstFrame.pstSlotArray);
+  AddRecords(blocks, gstSupportedOnuPonType.ulSupportedOnuPonTypeNum,
+             gstSupportedOnuPonType.pOnuPonTypeArray);
+  AddRecords(blocks, gstSupportedOnuLanType.ulSupportedOnuLanTypeNum,
+             gstSupportedOnuLanType.pOnuLanTypeArray);
+  AddRecords(blocks, gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum,
+             gstSupportedOnuPotsType.pOnuPotsTypeArray);
+  AddRecords(blocks, gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum,
+             gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray);
+  const SupportedOnuType& onus = gstSupportedOnuType;
+  AddRecords(blocks, onus.ulSupportedOnuTypeNum, onus.pOnuTypeArray);
+  for (uint32_t i = 0; onus.pOnuTypeArray != nullptr && i < onus.ulSupportedOnuTypeNum; ++i) {
+    if (const OnuInformation* const onu = onus.pOnuTypeArray[i]; onu != nullptr) {
+      AddRecords(blocks, onu->ulTotalPonNum, onu->pOnuPonArray);
+      AddRecords(blocks, onu->ulTotalLanPortNum, onu->pOnuLanPortArray);
+      AddRecords(blocks, onu->ulTotalPotsNum, onu->pOnuPotsPortArray);
+      AddRecords(blocks, onu->ulTotalSpecialPortNum, onu->pOnuSpecialPortArray);
+    }
+  }
   return blocks;
 }
 

@@ -6,6 +6,7 @@
 #include "sys_context/cfgfile.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace test {
 
@@ -27,6 +28,16 @@ void ReleaseBoard(BoardInformation* board) {
   }
 }
 
+void ReleaseOnu(OnuInformation* onu) {
+  if (onu != nullptr) {
+    ReleaseRecords(onu->ulTotalPonNum, onu->pOnuPonArray, std::free);
+    ReleaseRecords(onu->ulTotalLanPortNum, onu->pOnuLanPortArray, std::free);
+    ReleaseRecords(onu->ulTotalPotsNum, onu->pOnuPotsPortArray, std::free);
+    ReleaseRecords(onu->ulTotalSpecialPortNum, onu->pOnuSpecialPortArray, std::free);
+    std::free(onu);
+  }
+}
+
 }  // namespace
 
 void ResetTables() {
@@ -42,6 +53,21 @@ void ResetTables() {
                  gstSupportedBoardType.pBoardTypeArray, ReleaseBoard);
   gstSupportedBoardType = {};
   ddEmptyFrameInformation();
+  ReleaseRecords(gstSupportedOnuPonType.ulSupportedOnuPonTypeNum,
+                 gstSupportedOnuPonType.pOnuPonTypeArray, std::free);
+  gstSupportedOnuPonType = {};
+  ReleaseRecords(gstSupportedOnuLanType.ulSupportedOnuLanTypeNum,
+                 gstSupportedOnuLanType.pOnuLanTypeArray, std::free);
+  gstSupportedOnuLanType = {};
+  ReleaseRecords(gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum,
+                 gstSupportedOnuPotsType.pOnuPotsTypeArray, std::free);
+  gstSupportedOnuPotsType = {};
+  ReleaseRecords(gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum,
+                 gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray, std::free);
+  gstSupportedOnuSpecialPortType = {};
+  ReleaseRecords(gstSupportedOnuType.ulSupportedOnuTypeNum, gstSupportedOnuType.pOnuTypeArray,
+                 ReleaseOnu);
+  gstSupportedOnuType = {};
   gstVersionInformation = {};
   gstSysSupportFuncType = {};
   gstrddSoftwareVer = "KT2200V4.0";

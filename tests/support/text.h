@@ -9,6 +9,8 @@
 
 namespace test {
 
+using Names = std::vector<std::string>;
+
 // A pointer as messages show it: its low 32 bits.
 inline std::string Hex(const void* pointer) {
   char text[sizeof "0xffffffff"];
@@ -28,7 +30,7 @@ inline std::string Decimal(const void* pointer) {
 }
 
 // "<prefix>1=<first>\n<prefix>2=<second>\n..."
-inline std::string Numbered(const std::string& prefix, const std::vector<std::string>& values) {
+inline std::string Numbered(const std::string& prefix, const Names& values) {
   std::string text;
   for (size_t i = 0; i < values.size(); ++i) {
     text += prefix + std::to_string(i + 1) + "=" + values[i] + "\n";

@@ -1,4 +1,5 @@
-// What the library asks of the platform besides support/sample_card.cpp, from any thread.
+// What the library asks of the platform besides what support/sample_card.cpp and
+// support/sample_onu_service.cpp answer, from any thread.
 #include "sys_context/platform.h"
 
 #include <thread>

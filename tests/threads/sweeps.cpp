@@ -5,9 +5,11 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "support/sample_onu_service.h"
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace test {
 namespace {
@@ -30,6 +32,7 @@ const Numbers kSlotPorts = With(From0To(17), {48, 49, 128, 129});
 const Numbers kPorts = With(From0To(260), {1280, 1281, 65537, 0xffffffff});
 const Numbers kChips = {0, 1, 2};
 const Numbers kMaps = {0, 1, 2};
+const Numbers kOnuPorts = With(From0To(6), {24, 25, 100, 101, 0xffffffff});
 
 uint32_t LowBits(const void* pointer) {
   return static_cast<uint32_t>(reinterpret_cast<uintptr_t>(pointer));
@@ -44,6 +47,8 @@ struct Known {
     types.push_back(type);
     names.push_back(name);
   }
+
+  Names KnownNames() const { return Names(names.begin() + 2, names.end()); }
 };
 
 Known Modules() {
@@ -107,13 +112,12 @@ int32_t CreatePort(const char* name, uint32_t* type, uint32_t* ratio) {
   return code;
 }
 
+// Those that make copies tell everybody of names that they do not know.
 std::vector<Sweep> PortTypeSweeps() {
   const Known types = PortTypes();
-  // It tells everybody of names that it does not know.
-  const Names known_names(types.names.begin() + 2, types.names.end());
   return {
       SWEEP(ddIsOltPortTypeSupportedByName, Ask, types.names),
-      {"ddCreateOneOltPortObjByName", Ask(CreatePort, known_names)},
+      {"ddCreateOneOltPortObjByName", Ask(CreatePort, types.KnownNames())},
       SWEEP(ddGetOltPortSplittingRatioByType, Ask, types.types),
   };
 }
@@ -284,12 +288,100 @@ std::vector<Sweep> RunTimeMappingSweeps() {
   };
 }
 
+Known OnuPortTypes(uint32_t count, OnuPortTypeInformation* const* array) {
+  Known types;
+  for (uint32_t i = 0; i < count; ++i) {
+    types.Add(array[i]->ulPortType, array[i]->acName);
+  }
+  return types;
+}
+
+template <int32_t (*create)(const char* name, OnuPortTypeInformation** copy)>
+int32_t CreateOnuPort(const char* name, uint32_t* type) {
+  OnuPortTypeInformation* port = nullptr;
+  const int32_t code = create(name, &port);
+  if (port != nullptr) {
+    *type = port->ulPortType;
+    std::free(port);
+  }
+  return code;
+}
+
+std::vector<Sweep> OnuPortTypeSweeps() {
+  const Known pon = OnuPortTypes(gstSupportedOnuPonType.ulSupportedOnuPonTypeNum,
+                                 gstSupportedOnuPonType.pOnuPonTypeArray);
+  const Known lan = OnuPortTypes(gstSupportedOnuLanType.ulSupportedOnuLanTypeNum,
+                                 gstSupportedOnuLanType.pOnuLanTypeArray);
+  const Known pots = OnuPortTypes(gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum,
+                                  gstSupportedOnuPotsType.pOnuPotsTypeArray);
+  const Known special =
+      OnuPortTypes(gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum,
+                   gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray);
+  return {
+      SWEEP(ddIsOnuPonTypeSupportedByName, Ask, pon.names),
+      SWEEP(ddIsOnuLanTypeSupportedByName, Ask, lan.names),
+      SWEEP(ddIsOnuPotsTypeSupportedByName, Ask, pots.names),
+      SWEEP(ddIsOnuSpecialPortTypeSupportedByName, Ask, special.names),
+      SWEEP(ddIsOnuPonTypeSupportedByType, Ask, pon.types),
+      SWEEP(ddIsOnuLanTypeSupportedByType, Ask, lan.types),
+      SWEEP(ddIsOnuPotsTypeSupportedByType, Ask, pots.types),
+      SWEEP(ddIsOnuSpecialPortTypeSupportedByType, Ask, special.types),
+      {"ddCreateOneOnuPonObjByName",
+       Ask(CreateOnuPort<ddCreateOneOnuPonObjByName>, pon.KnownNames())},
+      {"ddCreateOneOnuLanObjByName",
+       Ask(CreateOnuPort<ddCreateOneOnuLanObjByName>, lan.KnownNames())},
+      {"ddCreateOneOnuPotsObjByName",
+       Ask(CreateOnuPort<ddCreateOneOnuPotsObjByName>, pots.KnownNames())},
+      {"ddCreateOneOnuSpecialPortObjByName",
+       Ask(CreateOnuPort<ddCreateOneOnuSpecialPortObjByName>, special.KnownNames())},
+  };
+}
+
+// Of the table, and of the platform.
+Known Onus() {
+  Known onus;
+  for (uint32_t i = 0; i < gstSupportedOnuType.ulSupportedOnuTypeNum; ++i) {
+    const OnuInformation& onu = *gstSupportedOnuType.pOnuTypeArray[i];
+    onus.Add(onu.ulOnuType, onu.acName);
+  }
+  onus.Add(kServedOnuType, kServedOnuName);
+  return onus;
+}
+
+// Its list has room for all.
+int32_t GetAllOnuTypes(uint32_t* types, uint32_t, uint32_t* count) {
+  *count = 0;
+  return ddGetAllSupportedOnuType(count, types);
+}
+
+std::vector<Sweep> OnuSweeps() {
+  const Known onus = Onus();
+  return {
+      SWEEP(ddCheckSupportedOnuTypeNum, Ask),
+      SWEEP(ddGetOnuPonNumByType, Ask, onus.types),
+      SWEEP(ddGetOnuLanPortNumByType, Ask, onus.types),
+      SWEEP(ddGetOnuPotsPortNumByType, Ask, onus.types),
+      SWEEP(ddGetOnuSpecialPortAmount, Ask, onus.types),
+      SWEEP(ddGetOnuSpecialPortNumByType, Ask, onus.types, kOnuPorts),
+      SWEEP(ddGetOnuPonPortTypeByType, Ask, onus.types, kOnuPorts),
+      SWEEP(ddGetOnuLanPortTypeByType, Ask, onus.types, kOnuPorts),
+      SWEEP(ddGetOnuPotsPortTypeByType, Ask, onus.types, kOnuPorts),
+      SWEEP(ddGetOnuSpecialPortTypeByPortNo, Ask, onus.types, kOnuPorts),
+      SWEEP(ddGetOnuSpecialPortTypeList, AskList, onus.types),
+      SWEEP(ddGetOnuNameByType, AskName, onus.types),
+      SWEEP(ddGetOnuTypeByName, Ask, onus.names),
+      SWEEP(ddIsOnuSupportedByType, Ask, onus.types),
+      {"ddGetAllSupportedOnuType", AskList(GetAllOnuTypes)},
+      SWEEP(ddGetSupportedOnuMaxLanNum, Ask),
+  };
+}
+
 }  // namespace
 
 std::vector<Sweep> AllSweeps() {
   std::vector<Sweep> all;
   for (const auto family : {ContextSweeps, PortTypeSweeps, MainBoardSweeps, BoardSweeps, SlotSweeps,
-                            LogicPortSweeps, RunTimeMappingSweeps}) {
+                            LogicPortSweeps, RunTimeMappingSweeps, OnuPortTypeSweeps, OnuSweeps}) {
     std::vector<Sweep> sweeps = family();
     all.insert(all.end(), std::make_move_iterator(sweeps.begin()),
                std::make_move_iterator(sweeps.end()));

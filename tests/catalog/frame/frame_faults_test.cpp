@@ -2,7 +2,6 @@
 // allocation of a load.
 #include <cstddef>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -177,22 +176,12 @@ TEST_F(FrameFaults, KeyIsMissing) {
   }
 }
 
-struct Step {
-  const char* name;
-  test::FaultPlan test::Faults::*plan;
-  string code;
-  int not_closed;  // failing steps whose file is never opened
-  friend std::ostream& operator<<(std::ostream& out, const Step& step) { return out << step.name; }
-};
-
-class FrameLookups : public FrameFaults, public testing::WithParamInterface<Step> {
+class FrameLookups : public FrameFaults, public testing::WithParamInterface<test::FileFault> {
  protected:
   test::DefinitionFile file_{test::kFrameSection};
 };
 
-INSTANTIATE_TEST_SUITE_P(Frame, FrameLookups,
-                         testing::Values(Step{"Open", &test::Faults::opens, "-10", 1},
-                                         Step{"Read", &test::Faults::reads, "-12", 0}),
+INSTANTIATE_TEST_SUITE_P(Frame, FrameLookups, testing::Values(test::kOpenFails, test::kReadFails),
                          testing::PrintToStringParamName());
 
 // The file is small: each lookup opens it and reads once.

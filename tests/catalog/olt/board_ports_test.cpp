@@ -177,7 +177,7 @@ class BoardPortsTest : public test::LibraryTest {
     ASSERT_EQ(board.*kind.count, ports.size());
     test::ExpectPorts(faults, board.*kind.ports, ports);
     EXPECT_EQ(faults.OwnBlocks(), ports.size() + 1);
-    ExpectAllClosed(faults);
+    test::ExpectAllClosed(faults);
     FreePorts(kind, board);
   }
 
@@ -192,13 +192,7 @@ class BoardPortsTest : public test::LibraryTest {
     EXPECT_EQ(console_.Text(), Of(kind, console));
     ExpectMarkedBut(board, kind, effect, 0);
     EXPECT_EQ(faults.OwnBlocks(), 0u);
-    ExpectAllClosed(faults);
-  }
-
-  // Each lookup seeks its position once.
-  void ExpectAllClosed(const BoardFaults& faults) {
-    EXPECT_EQ(faults.closes, faults.opens.count());
-    EXPECT_EQ(faults.seeks.count(), faults.opens.count());
+    test::ExpectAllClosed(faults);
   }
 
   test::Console console_;
@@ -408,20 +402,26 @@ TEST_P(AddOddPort, IsHadOrNoPortIs) {
 }
 
 const OddRow kOdds[] = {
-    {"PlaceZero", {0, 1, 0, 0}},
-    {"PlaceAtTheBoardsLimit", {0, 1, 128, 0}},
-    {"PlaceBehindTheBoardsLimit", {0, 1, 129, 0}, "\r\n{f} err! strKey = {port}2, ulIndex = 129"},
-    {"LargestPlace", {0, 1, 0xffffffff, 0}, "\r\n{f} err! strKey = {port}2, ulIndex = -1"},
-    {"NotSupported", {0, 0, 0, 0}, "\r\n{f} err! strKey = {port}2, IsSupported = 0"},
-    {"NotSupportedInAFarPlace", {0, 0, 129, 0}, "\r\n{f} err! strKey = {port}2, IsSupported = 0"},
+    {"PlaceZero", {.index = 0}},
+    {"PlaceAtTheBoardsLimit", {.index = 128}},
+    {"PlaceBehindTheBoardsLimit", {.index = 129}, "\r\n{f} err! strKey = {port}2, ulIndex = 129"},
+    {"LargestPlace", {.index = 0xffffffff}, "\r\n{f} err! strKey = {port}2, ulIndex = -1"},
+    {"NotSupported",
+     {.supported = 0, .index = 0},
+     "\r\n{f} err! strKey = {port}2, IsSupported = 0"},
+    {"NotSupportedInAFarPlace",
+     {.supported = 0, .index = 129},
+     "\r\n{f} err! strKey = {port}2, IsSupported = 0"},
     {"LookupFails",
-     {-5, 1, 7, 0},
+     {.lookup_code = -5, .index = 7},
      "\r\n{f}->dd_IsOltPonTypeSupportedBySecName err! iResult = -5, strKey = {port}2, ulIndex = 7"},
     {"LookupFailsInAFarPlace",
-     {-32, 0, 129, 0},
+     {.lookup_code = -32, .supported = 0, .index = 129},
      "\r\n{f}->dd_IsOltPonTypeSupportedBySecName err! iResult = -32, strKey = {port}2, ulIndex = "
      "129"},
-    {"NoCopy", {0, 1, 0, -27}, "\r\n{f}->dd_CreateOneOnuPonObjBySecName err! strKey = {port}2"},
+    {"NoCopy",
+     {.index = 0, .copy_code = -27},
+     "\r\n{f}->dd_CreateOneOnuPonObjBySecName err! strKey = {port}2"},
 };
 INSTANTIATE_TEST_SUITE_P(ServiceBoards, AddOddPort,
                          testing::Combine(testing::ValuesIn(kKinds), testing::ValuesIn(kOdds)),
@@ -554,24 +554,19 @@ TEST_P(EachKindOfPort, NoMemoryForACopy) {
 
 // A lookup that cannot open, seek or read: once, at each key.
 TEST_P(EachKindOfPort, OneLookupFails) {
-  const struct {
-    test::FaultPlan test::Faults::*plan;
-    string code;
-  } kFailures[] = {
-      {&test::Faults::opens, "-10"}, {&test::Faults::seeks, "-12"}, {&test::Faults::reads, "-12"}};
   const string file = Of(GetParam(), Sec("2", {"GPON", "GE"}));
-  for (const auto& failure : kFailures) {
+  for (const test::FileFault& fault : {test::kOpenFails, test::kSeekFails, test::kReadFails}) {
     for (int failing = 1; failing <= 3; ++failing) {
       SCOPED_TRACE(failing);
       BoardFaults faults(file);
-      (faults.*failure.plan).FailFrom(failing, 1);
+      (faults.*fault.plan).FailFrom(failing, 1);
       BoardInformation board = MarkedBoard();
       EXPECT_EQ(GetParam().add(BoardFaults::kPath, "Sec", 0, &board), failing == 1 ? -31 : -1);
       const string key = failing == 1 ? "{count}" : "{port}" + std::to_string(failing - 1);
-      EXPECT_EQ(console_.Text(), Of(GetParam(), NoKey(failure.code, key)));
+      EXPECT_EQ(console_.Text(), Of(GetParam(), NoKey(fault.code, key)));
       ExpectMarkedBut(board, GetParam(), failing == 1 ? Effect::kNoCount : Effect::kPortFailed, 0);
       EXPECT_EQ(faults.opens.count(), failing);
-      EXPECT_EQ(faults.closes, failure.code == "-10" ? failing - 1 : failing);
+      EXPECT_EQ(faults.closes, failing - fault.not_closed);
       EXPECT_EQ(faults.OwnBlocks(), 0u);
       if (HasFailure()) {
         return;

@@ -1,14 +1,17 @@
 // Reading one main board from its own section.
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "catalog/olt/main_boards.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
 #include "support/null_arguments.h"
 #include "support/records.h"
+#include "support/rows.h"
 #include "support/text.h"
 
 namespace {
@@ -25,7 +28,7 @@ struct RecordRow {
   const char* name;
   string from;  // piece of kSection
   string to;
-  void (*change)(MainBoardInformation& board);  // of what kSection describes
+  std::function<void(MainBoardInformation& board)> change;  // of what kSection describes
   friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
     return out << row.name;
   }
@@ -59,11 +62,6 @@ TEST_P(ReadMainBoard, HandsOverARecord) {
 
 using Record = MainBoardInformation;
 
-template <uint32_t type>
-void Type(Record& board) {
-  board.ulType = type;
-}
-
 void OnePortLess(Record& board) {
   board.ulSwitchChipLogicPortNum = 1;
   for (int i = 0; i < 3; ++i) {
@@ -96,15 +94,6 @@ const RecordRow kRecords[] = {
      "[Sec]\nSwitchChipLogicPortNum=2\nOther=1\nName=MPU\nType=7\n", [](Record&) {}},
     {"FirstKeyWins", "Type=7\n", "Type=7\nType=8\nName=MPU\nName=B\n", [](Record&) {}},
     {"OtherSectionAround", "[Sec]\n", "[sec]\nType=9\n[Sec]\n", [](Record&) {}},
-    {"TypeZero", "Type=7", "Type=0", Type<0>},
-    {"TypeEmpty", "Type=7", "Type=", Type<0>},
-    {"TypeText", "Type=7", "Type=abc", Type<0>},
-    {"TypeWithText", "Type=7", "Type=12x", Type<12>},
-    {"TypeNegative", "Type=7", "Type=-1", Type<0xffffffff>},
-    {"TypeLargest", "Type=7", "Type=2147483647", Type<0x7fffffff>},
-    {"TypeAbove31Bits", "Type=7", "Type=2147483648", Type<0x7fffffff>},
-    {"TypeAbove32Bits", "Type=7", "Type=4294967296", Type<0x7fffffff>},
-    {"TypeBelow32Bits", "Type=7", "Type=-4294967297", Type<0x80000000>},
     {"NameEmpty", "=MPU", "=", [](Record& b) { test::StoreName("", b.acName, b.ulNameLen); }},
     {"NameWithBlanks", "=MPU", "=two words",
      [](Record& b) { test::StoreName("two words", b.acName, b.ulNameLen); }},
@@ -122,6 +111,17 @@ const RecordRow kRecords[] = {
     {"SpecialCountWithText", "CardNum=2", "CardNum=1x", OneSpecialMap},
 };
 INSTANTIATE_TEST_SUITE_P(MainBoards, ReadMainBoard, testing::ValuesIn(kRecords),
+                         testing::PrintToStringParamName());
+
+std::vector<RecordRow> TypeRecords() {
+  std::vector<RecordRow> rows;
+  for (const test::TypeRow& row : test::kTypes) {
+    rows.push_back({row.name, "Type=7", string("Type=") + row.text,
+                    [type = row.type](Record& board) { board.ulType = type; }});
+  }
+  return rows;
+}
+INSTANTIATE_TEST_SUITE_P(Types, ReadMainBoard, testing::ValuesIn(TypeRecords()),
                          testing::PrintToStringParamName());
 
 // ---- Boards that do not ----------------------------------------------------------
@@ -190,13 +190,33 @@ const FailRow kFails[] = {
     {"TypeOfOtherCase", "Type=7\n", "type=7\n", -31, NoType("-2")},
     {"BrokenBeforeType", "Type=7\n", "nonsense\nType=7\n", -31, NoType("-14")},
     {"TooLongBeforeType", "Type=7\n", kTooLong + "Type=7\n", -31, NoType("-22")},
-    {"TypeUnreadable", "Sec", "Sec", -31, NoType("-12"), 1},
-    {"TypeNotOpened", "Sec", "Sec", -31, NoType("-10"), 0, 1},
+    {.name = "TypeUnreadable",
+     .from = "Sec",
+     .to = "Sec",
+     .code = -31,
+     .console = NoType("-12"),
+     .failing_read = 1},
+    {.name = "TypeNotOpened",
+     .from = "Sec",
+     .to = "Sec",
+     .code = -31,
+     .console = NoType("-10"),
+     .failing_open = 1},
     {"NoName", "Name=MPU\n", "", -31, NoName("-2")},
     {"BrokenBeforeName", "Name=", "nonsense\nName=", -31, NoName("-14")},
     {"TooLongBeforeName", "Name=", kTooLong + "Name=", -31, NoName("-22")},
-    {"NameUnreadable", "Sec", "Sec", -31, NoName("-12"), 2},
-    {"NameNotOpened", "Sec", "Sec", -31, NoName("-10"), 0, 2},
+    {.name = "NameUnreadable",
+     .from = "Sec",
+     .to = "Sec",
+     .code = -31,
+     .console = NoName("-12"),
+     .failing_read = 2},
+    {.name = "NameNotOpened",
+     .from = "Sec",
+     .to = "Sec",
+     .code = -31,
+     .console = NoName("-10"),
+     .failing_open = 2},
     {"NameTooLong", "=MPU", "=" + string(60, 'n'), -33, NameTooLong("61")},
     {"NameFarTooLong", "=MPU", "=" + string(507, 'n'), -33, NameTooLong("508")},
     {"NameTooLongAndNoPortCount", "=MPU\nSwitchChipLogicPortNum=2", "=" + string(60, 'n'), -33,

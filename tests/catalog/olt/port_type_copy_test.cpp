@@ -102,7 +102,7 @@ TEST_P(CopyPortType, ByName) {
   Put(GetParam().types);
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
-    ExpectCopy(GetParam().asked, records_[GetParam().record]);
+    ExpectCopy(GetParam().asked, placed_.records[GetParam().record]);
   }
 }
 
@@ -127,8 +127,8 @@ TEST_F(PortTypeCopies, EveryCopyIsABlockOfItsOwn) {
   ASSERT_EQ(ddCreateOneOltPortObjByName("GPON", &first), 0);
   ASSERT_EQ(ddCreateOneOltPortObjByName("GPON", &second), 0);
   EXPECT_NE(first, second);
-  EXPECT_NE(first, &records_[0]);
-  EXPECT_NE(second, &records_[0]);
+  EXPECT_NE(first, &placed_.records[0]);
+  EXPECT_NE(second, &placed_.records[0]);
   std::free(first);
   std::free(second);
 }
@@ -252,8 +252,8 @@ class OddAnswer : public PortTypeCopies, public testing::WithParamInterface<Answ
 
 TEST_P(OddAnswer, IsRefused) {
   Put(PortTypeTable::kEmptyPlaces);  // without records from place 10 on
-  slots_.resize(40);
-  gstSupportedOltPortType.pOltPortTypeArray = slots_.data();
+  placed_.slots.resize(40);
+  gstSupportedOltPortType.pOltPortTypeArray = placed_.slots.data();
   scripted = GetParam().answer;
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
@@ -325,8 +325,8 @@ INSTANTIATE_TEST_SUITE_P(PortTypes, OddAnswer, testing::ValuesIn(kAnswers),
 TEST_F(PortTypeCopies, OnePastTheCapacityIsLetThrough) {
   Put(PortTypeTable::kFull);
   OltPortInformation beyond = test::PortTypeRecord(31, "T31", 131);
-  slots_.push_back(&beyond);
-  gstSupportedOltPortType.pOltPortTypeArray = slots_.data();
+  placed_.slots.push_back(&beyond);
+  gstSupportedOltPortType.pOltPortTypeArray = placed_.slots.data();
   scripted = Answer{0, 1, 30};
   ExpectCopy("T31", beyond);
 }
@@ -335,17 +335,17 @@ TEST_F(PortTypeCopies, OnePastTheCapacityIsLetThrough) {
 TEST_F(PortTypeCopies, ThePlaceDecides) {
   Put(PortTypeTable::kLoaded);
   scripted = Answer{0, 1, 4};
-  ExpectCopy("GPON", records_[4]);
+  ExpectCopy("GPON", placed_.records[4]);
 }
 
 // As many bytes as the record says, be there a terminator among them or not.
 TEST_F(PortTypeCopies, TheStoredLengthIsCopied) {
   Put(PortTypeTable::kLoaded);
-  records_[1].ulNameLen = 2;  // "XG"
-  ExpectCopy("XGXXX", records_[1]);
+  placed_.records[1].ulNameLen = 2;  // "XG"
+  ExpectCopy("XGXXX", placed_.records[1]);
   scripted = Answer{0, 1, 4};
-  std::memset(records_[4].acName, 'p', sizeof records_[4].acName);
-  ExpectCopy("GPON", records_[4]);
+  std::memset(placed_.records[4].acName, 'p', sizeof placed_.records[4].acName);
+  ExpectCopy("GPON", placed_.records[4]);
 }
 
 }  // namespace

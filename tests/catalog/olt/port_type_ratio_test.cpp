@@ -89,11 +89,11 @@ TEST_F(PortTypeRatios, OnlyTheAnsweringRecordIsComplainedAbout) {
   Put(PortTypeTable::kLoaded);
   ddDebugPrint = 1;
   uint32_t ratio = 77;
-  records_[2].ulSplittingRatio = 600;  // the second one of type 1
+  placed_.records[2].ulSplittingRatio = 600;  // the second one of type 1
   EXPECT_EQ(ddGetOltPortSplittingRatioByType(1, &ratio), 0);
   EXPECT_EQ(ratio, 64u);
   EXPECT_EQ(console_.Text(), "");
-  records_[0].ulSplittingRatio = 601;
+  placed_.records[0].ulSplittingRatio = 601;
   EXPECT_EQ(ddGetOltPortSplittingRatioByType(1, &ratio), 0);
   EXPECT_EQ(ratio, 601u);
   EXPECT_EQ(console_.Text(),

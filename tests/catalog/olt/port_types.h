@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "catalog/port_type_tables.h"
 #include "support/records.h"
 #include "support/tables.h"
 #include "sys_context/olt.h"
@@ -34,20 +35,6 @@ inline std::string ThreePortTypes(const std::string& sections) {
 
 // ---- In the table ------------------------------------------------------------
 
-enum class PortTypeTable {
-  kLoaded,             // eight records, see below
-  kEmptyPlaces,        // the same with empty places at 0 and 2
-  kLengthTooLarge,     // the same; the name length of the third one is 61
-  kLengthFarTooLarge,  // the same; it is the largest number
-  kFull,               // 30 records: types 1 to 30, names T1 to T30, ratios 101 to 130
-  kNone,               // no array, count 0
-  kNoneButCount,       // no array, count 3
-  kNoRecords,          // array there, count 0
-  kCorrupt,            // count 31, array there
-  kCorruptNone,        // count 31, no array
-  kCorruptMost,        // the largest count, array there
-};
-
 // Behind the name, and in the reserved word, are traces that no copy may take over.
 inline OltPortInformation PortTypeRecord(uint32_t type, const std::string& name, uint32_t ratio) {
   OltPortInformation record = {};
@@ -59,6 +46,7 @@ inline OltPortInformation PortTypeRecord(uint32_t type, const std::string& name,
   return record;
 }
 
+// In a full table the ratios are 101 to 130.
 class PortTypesTest : public LibraryTest {
  protected:
   void TearDown() override {
@@ -67,27 +55,17 @@ class PortTypesTest : public LibraryTest {
   }
 
   void Put(PortTypeTable types) {
-    records_ = types == PortTypeTable::kFull ? Thirty() : Eight();
-    slots_.clear();
-    for (OltPortInformation& record : records_) {
-      slots_.push_back(&record);
-    }
-    if (types == PortTypeTable::kEmptyPlaces) {
-      slots_.insert(slots_.begin(), nullptr);
-      slots_.insert(slots_.begin() + 2, nullptr);
-    }
-    if (types == PortTypeTable::kLengthTooLarge) {
-      records_[2].ulNameLen = 61;
-    }
-    if (types == PortTypeTable::kLengthFarTooLarge) {
-      records_[2].ulNameLen = 0xffffffff;
-    }
-    gstSupportedOltPortType = {Count(types), HasArray(types) ? slots_.data() : nullptr};
+    placed_.Put(
+        types, Eight(),
+        [](uint32_t type, const std::string& name) {
+          return PortTypeRecord(type, name, 100 + type);
+        },
+        gstSupportedOltPortType.ulSupportedOltPortTypeNum,
+        gstSupportedOltPortType.pOltPortTypeArray);
   }
 
   Console console_;
-  std::vector<OltPortInformation> records_;
-  std::vector<OltPortInformation*> slots_;
+  PlacedPortTypes<OltPortInformation> placed_;
 
  private:
   static std::vector<OltPortInformation> Eight() {
@@ -99,36 +77,6 @@ class PortTypesTest : public LibraryTest {
             PortTypeRecord(0xffffffff, "", 0),
             PortTypeRecord(0, "ZERO", 513),
             PortTypeRecord(5, "WIDE", 0xffffffff)};
-  }
-
-  static std::vector<OltPortInformation> Thirty() {
-    std::vector<OltPortInformation> records;
-    for (uint32_t i = 1; i <= 30; ++i) {
-      records.push_back(PortTypeRecord(i, "T" + std::to_string(i), 100 + i));
-    }
-    return records;
-  }
-
-  uint32_t Count(PortTypeTable types) const {
-    switch (types) {
-      case PortTypeTable::kNone:
-      case PortTypeTable::kNoRecords:
-        return 0;
-      case PortTypeTable::kNoneButCount:
-        return 3;
-      case PortTypeTable::kCorrupt:
-      case PortTypeTable::kCorruptNone:
-        return 31;
-      case PortTypeTable::kCorruptMost:
-        return 0xffffffff;
-      default:
-        return static_cast<uint32_t>(slots_.size());
-    }
-  }
-
-  static bool HasArray(PortTypeTable types) {
-    return types != PortTypeTable::kNone && types != PortTypeTable::kNoneButCount &&
-           types != PortTypeTable::kCorruptNone;
   }
 };
 

@@ -1,34 +1,29 @@
 // The service boards when memory runs out or the file fails: at every allocation
 // and every lookup of a load.
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "catalog/load_faults.h"
 #include "catalog/olt/service_boards.h"
-#include "support/leaks.h"
-#include "support/text.h"
+#include "support/rows.h"
 
 namespace {
 
 using std::string;
 using test::BoardFaults;
-using test::With;
+using test::FaultyLoad;
+using test::kFirst;
+using test::kNone;
+using test::kSecond;
+using test::LoadFailure;
+using test::LoadFaults;
+using test::LoadFileFaults;
 
 const string kFile = test::BoardList({"S1", "S2"}) +
                      test::BoardSection("S1", "5", "N1", {"GPON", "GE"}, {"XGSPON", "GE"}) +
                      test::BoardSection("S2", "6", "N2", {"XGSPON"});
-
-// What comes of one step of the load, if it alone fails.
-struct Failure {
-  int32_t code;
-  std::vector<uint32_t> kept;  // the types of the boards in the array
-  size_t lost;                 // copies of serving ports that are not released
-  string console;
-};
-
-const std::vector<uint32_t> kNone = {};
-const std::vector<uint32_t> kFirst = {5};
-const std::vector<uint32_t> kSecond = {6};
 
 string Left(const string& code, const string& section) {
   return "\r\nddReadAllSupportedBoardInformation->ddReadOneSupportedBoardInformation err! iResult "
@@ -46,44 +41,31 @@ string NoSpecial(const string& code, const string& section) {
          section + Left(code, section);
 }
 
-class ServiceBoardFaults : public test::LibraryTest {
- protected:
-  void SetUp() override {
-    LibraryTest::SetUp();
-    test::FakePlatform::Get().pon_cards = {5, 6};
-  }
+// ---- The load -----------------------------------------------------------------
 
-  // Loads, and expects what that leads to. Whatever is kept is in order.
-  void ExpectFailure(BoardFaults& faults, const Failure& failure) {
-    EXPECT_EQ(ddReadAllSupportedBoardInformation(BoardFaults::kPath), failure.code);
-    EXPECT_EQ(console_.Text(), failure.console);
-    const auto kept = static_cast<uint32_t>(failure.kept.size());
-    EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, failure.code == 0 ? kept : 0);
-    ExpectMaximum(failure);
-    gstSupportedBoardType.ulSupportedBoardTypeNum = kept;  // an abandoned load does not tell
-    for (size_t i = 0; i < kept; ++i) {
-      ASSERT_NE(gstSupportedBoardType.pBoardTypeArray[i], nullptr);
-      EXPECT_EQ(gstSupportedBoardType.pBoardTypeArray[i]->ulType, failure.kept[i]);
-    }
-    for (void* const block : test::LostBlocks(faults)) {
-      EXPECT_EQ(faults.blocks.at(block), sizeof(OltPortInformation));
-    }
-    test::ExpectAndReleaseLost(faults, failure.lost);
-    test::ExpectNoLeak(faults);
-  }
+std::shared_ptr<test::Faults> Watch(int32_t debug) {
+  test::FakePlatform::Get().pon_cards = {5, 6};
+  return std::make_shared<BoardFaults>(kFile, debug);
+}
 
-  test::Console console_;
+int32_t Load() {
+  return ddReadAllSupportedBoardInformation(BoardFaults::kPath);
+}
 
- private:
-  static void ExpectMaximum(const Failure& failure) {
-    const bool found = failure.code == 0 && !failure.kept.empty();
-    const uint32_t type = found ? failure.kept[0] : 0;
-    EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, type);
-    EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, type == 5   ? 2u
-                                                               : type == 6 ? 1u
-                                                                           : 0u);
+void ExpectTable(const LoadFailure& failure) {
+  const auto kept = static_cast<uint32_t>(failure.kept.size());
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, failure.code == 0 ? kept : 0);
+  const uint32_t first = failure.code == 0 && kept != 0 ? failure.kept[0] : 0;
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, first);
+  EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, first == 5   ? 2u
+                                                             : first == 6 ? 1u
+                                                                          : 0u);
+  gstSupportedBoardType.ulSupportedBoardTypeNum = kept;  // an abandoned load does not tell
+  for (size_t i = 0; i < kept; ++i) {
+    ASSERT_NE(gstSupportedBoardType.pBoardTypeArray[i], nullptr);
+    EXPECT_EQ(gstSupportedBoardType.pBoardTypeArray[i]->ulType, failure.kept[i]);
   }
-};
+}
 
 // ---- Memory -------------------------------------------------------------------
 
@@ -106,8 +88,8 @@ string NoSpecialCopy(const string& place, const string& number, const string& se
          number + NoSpecial("-1", section);
 }
 
-const std::vector<Failure>& Allocations() {
-  static const std::vector<Failure> allocations = {
+const std::vector<LoadFailure>& Allocations() {
+  static const std::vector<LoadFailure> allocations = {
       {-27, kNone, 0, "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0"},
       {0, kSecond, 0, NoRecord("S1")},
       {0, kSecond, 0,
@@ -128,66 +110,6 @@ const std::vector<Failure>& Allocations() {
       {0, kFirst, 0, NoServingCopy("1", "1", "S2")},
   };
   return allocations;
-}
-
-TEST_F(ServiceBoardFaults, ALoadAllocatesWhatItsTableHolds) {
-  BoardFaults faults(kFile);
-  ExpectFailure(faults, {0, {5, 6}, 0, ""});
-  EXPECT_EQ(faults.allocations.count(), static_cast<int>(Allocations().size()));
-  EXPECT_EQ(faults.frees, 0);
-}
-
-TEST_F(ServiceBoardFaults, OneAllocationFails) {
-  for (const int32_t debug : {0, 1}) {
-    for (size_t failing = 1; failing <= Allocations().size(); ++failing) {
-      SCOPED_TRACE(failing);
-      BoardFaults faults(kFile, debug);
-      faults.allocations.FailFrom(static_cast<int>(failing), 1);
-      ExpectFailure(faults, Allocations()[failing - 1]);
-      EXPECT_EQ(faults.closes, faults.opens.count());
-      if (HasFailure()) {
-        return;  // its words are on the caught console as well
-      }
-    }
-  }
-}
-
-TEST_F(ServiceBoardFaults, NoAllocationSucceedsFromOneOn) {
-  for (size_t failing = 1; failing <= Allocations().size(); ++failing) {
-    SCOPED_TRACE(failing);
-    BoardFaults faults(kFile);
-    faults.allocations.FailFrom(static_cast<int>(failing), test::FaultPlan::kForEver);
-    Failure failure = Allocations()[failing - 1];
-    if (failure.kept == kSecond) {
-      failure.kept = kNone;
-      failure.console += NoRecord("S2");
-    }
-    ExpectFailure(faults, failure);
-    EXPECT_EQ(faults.closes, faults.opens.count());
-    if (HasFailure()) {
-      return;
-    }
-  }
-}
-
-TEST_F(ServiceBoardFaults, NoMemoryForTheListLeavesTheCount) {
-  for (const int32_t debug : {0, 1}) {
-    for (const int calls : {1, test::FaultPlan::kForEver}) {
-      BoardFaults faults(kFile, debug);
-      faults.allocations.FailFrom(1, calls);
-      gstSupportedBoardType = {9, nullptr, 0x7e7e, 0x6d6d};
-      EXPECT_EQ(ddReadAllSupportedBoardInformation(BoardFaults::kPath), -27);
-      EXPECT_EQ(console_.Text(),
-                "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0");
-      EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, 9u);
-      EXPECT_EQ(gstSupportedBoardType.pBoardTypeArray, nullptr);
-      EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, 0x7e7eu);
-      EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 0x6d6du);
-      EXPECT_EQ(faults.opens.count(), 1);  // the number; no entry is read
-      EXPECT_EQ(faults.OwnBlocks(), 0u);
-      EXPECT_TRUE(test::FakePlatform::Get().asked.empty());
-    }
-  }
 }
 
 // ---- The file -----------------------------------------------------------------
@@ -219,8 +141,8 @@ string NoSpecialKey(const string& code, const string& section, const string& key
          ", key = " + key + NoSpecial(code, section);
 }
 
-const std::vector<Failure>& Lookups() {
-  static const std::vector<Failure> lookups = {
+const std::vector<LoadFailure>& Lookups() {
+  static const std::vector<LoadFailure> lookups = {
       {-31, kNone, 0, NoListKey("SupportedBoardTypeNum")},
       {0, kSecond, 0, NoListKey("SupportedBoardType1")},
       {-31, kNone, 0, NotFound("S1")},
@@ -243,66 +165,51 @@ const std::vector<Failure>& Lookups() {
   return lookups;
 }
 
-// The file is small: each lookup opens it, seeks and reads once.
-TEST_F(ServiceBoardFaults, LookupsOfALoad) {
-  BoardFaults faults(kFile);
-  ExpectFailure(faults, {0, {5, 6}, 0, ""});
-  const int lookups = static_cast<int>(Lookups().size());
-  EXPECT_EQ(faults.opens.count(), lookups);
-  EXPECT_EQ(faults.seeks.count(), lookups);
-  EXPECT_EQ(faults.reads.count(), lookups);
-  EXPECT_EQ(faults.closes, lookups);
-}
+// ---- The tests ----------------------------------------------------------------
 
-struct Step {
-  const char* name;
-  test::FaultPlan test::Faults::*plan;
-  string code;
-  int not_closed;  // failing steps whose file is never opened
-  friend std::ostream& operator<<(std::ostream& out, const Step& step) { return out << step.name; }
+const FaultyLoad& ServiceBoards() {
+  static const FaultyLoad load = {
+      .name = "ServiceBoards",
+      .watch = Watch,
+      .run = Load,
+      .expect = ExpectTable,
+      .port_size = sizeof(OltPortInformation),
+      .allocations = Allocations,
+      .lookups = Lookups,
+      .also_no_record = NoRecord("S2"),
+      .also_no_entry = NoListKey("SupportedBoardType2"),
+  };
+  return load;
+}
+INSTANTIATE_TEST_SUITE_P(Of, LoadFaults, testing::Values(ServiceBoards()),
+                         testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Of, LoadFileFaults,
+                         testing::Combine(testing::Values(ServiceBoards()),
+                                          testing::Values(test::kOpenFails, test::kSeekFails,
+                                                          test::kReadFails)),
+                         test::KindAndRow());
+
+class ServiceBoardFaults : public test::LibraryTest {
+ protected:
+  test::Console console_;
 };
 
-class ServiceBoardLookups : public ServiceBoardFaults, public testing::WithParamInterface<Step> {};
-
-INSTANTIATE_TEST_SUITE_P(ServiceBoards, ServiceBoardLookups,
-                         testing::Values(Step{"Open", &test::Faults::opens, "-10", 1},
-                                         Step{"Seek", &test::Faults::seeks, "-12", 0},
-                                         Step{"Read", &test::Faults::reads, "-12", 0}),
-                         testing::PrintToStringParamName());
-
-TEST_P(ServiceBoardLookups, OneFails) {
+TEST_F(ServiceBoardFaults, NoMemoryForTheListLeavesTheCount) {
   for (const int32_t debug : {0, 1}) {
-    for (size_t failing = 1; failing <= Lookups().size(); ++failing) {
-      SCOPED_TRACE(failing);
+    for (const int calls : {1, test::FaultPlan::kForEver}) {
       BoardFaults faults(kFile, debug);
-      (faults.*GetParam().plan).FailFrom(static_cast<int>(failing), 1);
-      Failure failure = Lookups()[failing - 1];
-      failure.console = With(failure.console, "%", GetParam().code);
-      ExpectFailure(faults, failure);
-      EXPECT_EQ(faults.closes, faults.opens.count() - GetParam().not_closed);
-      if (HasFailure()) {
-        return;
-      }
-    }
-  }
-}
-
-// From a failing lookup on nothing can be read. The next board's place in the
-// list is then missing, which leaves it out.
-TEST_P(ServiceBoardLookups, NoneSucceedsFromOneOn) {
-  for (size_t failing = 1; failing <= Lookups().size(); ++failing) {
-    SCOPED_TRACE(failing);
-    BoardFaults faults(kFile);
-    (faults.*GetParam().plan).FailFrom(static_cast<int>(failing), test::FaultPlan::kForEver);
-    Failure failure = Lookups()[failing - 1];
-    if (failure.kept == kSecond) {
-      failure.kept = kNone;
-      failure.console += NoListKey("SupportedBoardType2");
-    }
-    failure.console = With(failure.console, "%", GetParam().code);
-    ExpectFailure(faults, failure);
-    if (HasFailure()) {
-      return;
+      faults.allocations.FailFrom(1, calls);
+      gstSupportedBoardType = {9, nullptr, 0x7e7e, 0x6d6d};
+      EXPECT_EQ(ddReadAllSupportedBoardInformation(BoardFaults::kPath), -27);
+      EXPECT_EQ(console_.Text(),
+                "\r\nddReadAllSupportedOnuInformation->malloc err! pBoardTypeArray = 0x0");
+      EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, 9u);
+      EXPECT_EQ(gstSupportedBoardType.pBoardTypeArray, nullptr);
+      EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, 0x7e7eu);
+      EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 0x6d6du);
+      EXPECT_EQ(faults.opens.count(), 1);  // the number; no entry is read
+      EXPECT_EQ(faults.OwnBlocks(), 0u);
+      EXPECT_TRUE(test::FakePlatform::Get().asked.empty());
     }
   }
 }

@@ -7,6 +7,7 @@
 #include "catalog/olt/service_boards.h"
 #include "support/leaks.h"
 #include "support/null_arguments.h"
+#include "support/rows.h"
 #include "support/text.h"
 
 namespace {
@@ -25,12 +26,6 @@ const Names k128(128, "GPON");
 
 class ServiceBoardTest : public test::LibraryTest {
  protected:
-  // Each lookup seeks its position once.
-  void ExpectAllClosed(const BoardFaults& faults) {
-    EXPECT_EQ(faults.closes, faults.opens.count());
-    EXPECT_EQ(faults.seeks.count(), faults.opens.count());
-  }
-
   // Releases a board that has fewer than 128 ports of each kind.
   void ExpectToRelease(const BoardFaults& faults, BoardInformation* board) {
     EXPECT_EQ(ddFreeOneBoardAllObj(board), 0);
@@ -65,7 +60,7 @@ TEST_P(ReadServiceBoard, HandsOverARecord) {
     EXPECT_EQ(faults.OwnBlocks(), test::BlocksOf(expected));
     EXPECT_EQ(faults.opens.count(),
               static_cast<int>(4 + expected.serving.size() + expected.special.size()));
-    ExpectAllClosed(faults);
+    test::ExpectAllClosed(faults);
     ExpectToRelease(faults, board);
   }
 }
@@ -92,24 +87,22 @@ const ReadRow kReads[] = {
      SecBoard(7)},
     {"FirstKeyWins", Sec("7") + "Type=8\nName=B\nPortNum=0\nSpecialPortNum=0\n", SecBoard(7)},
     {"FirstSectionWins", Sec("7") + Sec("8", "B"), SecBoard(7)},
-    {"TypeZero", Sec("0"), SecBoard(0)},
-    {"TypeEmpty", Sec(""), SecBoard(0)},
-    {"TypeText", Sec("abc"), SecBoard(0)},
-    {"TypeHexadecimal", Sec("0x7"), SecBoard(0)},
-    {"TypeWithText", Sec(" +12x"), SecBoard(12)},
-    {"TypeAbove16Bits", Sec("65537"), SecBoard(65537)},
-    {"TypeLargest", Sec("2147483647"), SecBoard(2147483647)},
-    {"TypeAbove31Bits", Sec("2147483648"), SecBoard(2147483647)},
-    {"TypeAbove32Bits", Sec("4294967297"), SecBoard(2147483647)},
-    {"TypeNegative", Sec("-1"), SecBoard(4294967295)},
-    {"TypeSmallest", Sec("-2147483648"), SecBoard(2147483648)},
-    {"TypeBelow32Bits", Sec("-4294967297"), SecBoard(2147483648)},
     {"NameEmpty", Sec("1", ""), SecBoard(1, "")},
     {"NameWithBlanks", Sec("1", "two words"), SecBoard(1, "two words")},
     {"NameLongest", Sec("1", k59), SecBoard(1, k59)},
     {"MostPortsBelowTheBound", BoardSection("Sec", "1", "N", k127, k127), {1, "N", k127, k127}},
 };
 INSTANTIATE_TEST_SUITE_P(ServiceBoards, ReadServiceBoard, testing::ValuesIn(kReads),
+                         testing::PrintToStringParamName());
+
+std::vector<ReadRow> TypeReads() {
+  std::vector<ReadRow> rows;
+  for (const test::TypeRow& row : test::kTypes) {
+    rows.push_back({row.name, Sec(row.text), SecBoard(row.type)});
+  }
+  return rows;
+}
+INSTANTIATE_TEST_SUITE_P(Types, ReadServiceBoard, testing::ValuesIn(TypeReads()),
                          testing::PrintToStringParamName());
 
 using ServiceBoardRecord = ServiceBoardTest;
@@ -171,7 +164,7 @@ TEST_P(FailToReadServiceBoard, ReleasesItAndClearsThePointer) {
 
     EXPECT_EQ(board, nullptr);
     EXPECT_EQ(console_.Text(), GetParam().console);
-    ExpectAllClosed(faults);
+    test::ExpectAllClosed(faults);
     EXPECT_EQ(faults.OwnBlocks(), GetParam().lost);
     for (void* const block : test::LostBlocks(faults)) {
       EXPECT_EQ(faults.blocks.at(block), sizeof(OltPortInformation));
@@ -220,9 +213,21 @@ const FailRow kFails[] = {
     {"BrokenBeforeType", "[Sec]\nnonsense\nType=1\nName=N\n", -31, NoType("-14")},
     {"BrokenHeader", "[Broken\n" + Sec("1"), -31, NoType("-14")},
     {"TooLongBeforeType", "[Sec]\n" + kTooLong + "Type=1\nName=N\n", -31, NoType("-22")},
-    {"SectionBeforeThePosition", Sec("1"), -31, NoType("-1"), 1},
-    {"PositionBehindTheFile", Sec("1"), -31, NoType("-1"), 100000},
-    {"LargestPosition", Sec("1"), -31, NoType("-1"), INT32_MAX},
+    {.name = "SectionBeforeThePosition",
+     .file = Sec("1"),
+     .code = -31,
+     .console = NoType("-1"),
+     .start = 1},
+    {.name = "PositionBehindTheFile",
+     .file = Sec("1"),
+     .code = -31,
+     .console = NoType("-1"),
+     .start = 100000},
+    {.name = "LargestPosition",
+     .file = Sec("1"),
+     .code = -31,
+     .console = NoType("-1"),
+     .start = INT32_MAX},
     {"NoName", "[Sec]\nType=1\nPortNum=0\nSpecialPortNum=0\n", -31, NoName("-2")},
     {"BrokenBeforeName", "[Sec]\nType=1\nnonsense\nName=N\n", -31, NoName("-14")},
     {"TooLongBeforeName", "[Sec]\nType=1\n" + kTooLong + "Name=N\n", -31, NoName("-22")},
@@ -248,26 +253,43 @@ const FailRow kFails[] = {
      NoSpecial(" err! ulTotalSpecialPortNum = 129, MAX_OLT_SPECIAL_PORT_NUM_PER_BOARD = 128")},
     {"NegativeSpecialPortNum", Two("SpecialPortNum=-1\n"), -13,
      NoSpecial(" err! ulTotalSpecialPortNum = -1, MAX_OLT_SPECIAL_PORT_NUM_PER_BOARD = 128")},
-    {"SpecialPortMissing", Two("SpecialPortNum=2\nNameKeySpecialPort1=GE\n"), -1,
-     NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort2"), 0, 2},
-    {"SpecialPortUnknown", Two("SpecialPortNum=1\nNameKeySpecialPort1=EPON\n"), -1,
-     NoSpecial("->dd_IsOltPonTypeSupportedBySecName err! iResult = -32, strKey = "
-               "NameKeySpecialPort1, ulIndex = 0"),
-     0, 2},
+    {.name = "SpecialPortMissing",
+     .file = Two("SpecialPortNum=2\nNameKeySpecialPort1=GE\n"),
+     .code = -1,
+     .console = NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort2"),
+     .lost = 2},
+    {.name = "SpecialPortUnknown",
+     .file = Two("SpecialPortNum=1\nNameKeySpecialPort1=EPON\n"),
+     .code = -1,
+     .console = NoSpecial("->dd_IsOltPonTypeSupportedBySecName err! iResult = -32, strKey = "
+                          "NameKeySpecialPort1, ulIndex = 0"),
+     .lost = 2},
     {"SpecialPortMissingWithoutServingPorts",
      "[Sec]\nType=1\nName=N\nPortNum=0\nSpecialPortNum=2\nNameKeySpecialPort1=GE\n", -1,
      NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort2")},
     {"NoSpecialPortNumBehind127Ports", Many(k127, ""), -31,
      NoSpecial(" err! iResult = -2, section = Sec, key = SpecialPortNum")},
-    {"NoSpecialPortNumBehind128Ports", Many(k128, ""), -31,
-     NoSpecial(" err! iResult = -2, section = Sec, key = SpecialPortNum"), 0, 128},
-    {"TooManySpecialPortsBehind128Ports", Many(k128, "SpecialPortNum=129\n"), -13,
-     NoSpecial(" err! ulTotalSpecialPortNum = 129, MAX_OLT_SPECIAL_PORT_NUM_PER_BOARD = 128"), 0,
-     128},
-    {"SpecialPortMissingBehind127Ports", Many(k127, "SpecialPortNum=1\n"), -1,
-     NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort1"), 0, 127},
-    {"SpecialPortMissingBehind128Ports", Many(k128, "SpecialPortNum=1\n"), -1,
-     NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort1"), 0, 128},
+    {.name = "NoSpecialPortNumBehind128Ports",
+     .file = Many(k128, ""),
+     .code = -31,
+     .console = NoSpecial(" err! iResult = -2, section = Sec, key = SpecialPortNum"),
+     .lost = 128},
+    {.name = "TooManySpecialPortsBehind128Ports",
+     .file = Many(k128, "SpecialPortNum=129\n"),
+     .code = -13,
+     .console =
+         NoSpecial(" err! ulTotalSpecialPortNum = 129, MAX_OLT_SPECIAL_PORT_NUM_PER_BOARD = 128"),
+     .lost = 128},
+    {.name = "SpecialPortMissingBehind127Ports",
+     .file = Many(k127, "SpecialPortNum=1\n"),
+     .code = -1,
+     .console = NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort1"),
+     .lost = 127},
+    {.name = "SpecialPortMissingBehind128Ports",
+     .file = Many(k128, "SpecialPortNum=1\n"),
+     .code = -1,
+     .console = NoSpecial(" err! iResult = -2, section = Sec, key = NameKeySpecialPort1"),
+     .lost = 128},
 };
 INSTANTIATE_TEST_SUITE_P(ServiceBoards, FailToReadServiceBoard, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());

@@ -2,7 +2,6 @@
 // that describe them, and what is expected of their records.
 #pragma once
 
-#include <cstdlib>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,11 +26,6 @@ inline const std::vector<KnownPortType>& KnownPortTypes() {
   static const std::vector<KnownPortType> types = {
       {"GPON", 11, 128}, {"XGSPON", 12, 256}, {"GE", 13, 0}, {std::string(59, 'p'), 0xffffffff, 1}};
   return types;
-}
-
-template <typename T>
-T* ZeroedBlocks(size_t count) {
-  return static_cast<T*>(std::calloc(count, sizeof(T)));
 }
 
 inline OltPortInformation* NewPort(const KnownPortType& type) {
@@ -68,8 +62,6 @@ struct BoardFaults : Faults {
 };
 
 // ---- Files --------------------------------------------------------------------
-
-using Names = std::vector<std::string>;
 
 inline std::string ServingPorts(const Names& ports) {
   return "PortNum=" + std::to_string(ports.size()) + "\n" + Numbered("NameKeyPort", ports);
@@ -111,10 +103,7 @@ inline void ExpectCopy(const OltPortInformation& port, const std::string& name) 
   }
   ASSERT_NE(expected, nullptr) << name;
   EXPECT_EQ(port.ulPortType, expected->type);
-  EXPECT_EQ(port.ulNameLen, name.size() + 1);
-  std::string field = name;
-  field.resize(sizeof port.acName);
-  EXPECT_EQ(std::string(port.acName, sizeof port.acName), field);
+  ExpectName(port.acName, port.ulNameLen, name);
   EXPECT_EQ(port.ulSplittingRatio, expected->ratio);
   EXPECT_EQ(port.ulLink, 0u);
 }
@@ -150,10 +139,7 @@ inline void ExpectServiceBoard(const Faults& faults, const BoardInformation* boa
   EXPECT_EQ(faults.blocks.at(const_cast<BoardInformation*>(board)), sizeof(BoardInformation));
   EXPECT_EQ(board->ulType, expected.type);
   EXPECT_EQ(board->ulSubType, 0u);
-  EXPECT_EQ(board->ulNameLen, expected.name.size() + 1);
-  std::string field = expected.name;
-  field.resize(sizeof board->acName);  // the rest is zero
-  EXPECT_EQ(std::string(board->acName, sizeof board->acName), field);
+  ExpectName(board->acName, board->ulNameLen, expected.name);
   EXPECT_EQ(board->ulReserved, 0u);
   ExpectPortsOrNone(faults, board->ulTotalServePortNum, board->pPortArray, expected.serving);
   ExpectPortsOrNone(faults, board->ulTotalSpecialPortNum, board->pSpecialPortArray,

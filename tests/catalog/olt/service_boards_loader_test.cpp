@@ -76,11 +76,6 @@ class ServiceBoardsTest : public test::LibraryTest {
     EXPECT_EQ(faults.OwnBlocks() - test::LostBlocks(faults).size(), blocks);
   }
 
-  void ExpectAllClosed(const BoardFaults& faults) {
-    EXPECT_EQ(faults.closes, faults.opens.count());
-    EXPECT_EQ(faults.seeks.count(), faults.opens.count());
-  }
-
   test::Console console_;
 };
 
@@ -111,17 +106,17 @@ TEST_P(LoadServiceBoards, KeepsWhatReadsWell) {
     ExpectBoards(faults, GetParam().announced, GetParam().boards);
     test::ExpectAndReleaseLost(faults, GetParam().lost);
     test::ExpectNoLeak(faults);
-    ExpectAllClosed(faults);
+    test::ExpectAllClosed(faults);
     EXPECT_EQ(finish.calls, 1);
     EXPECT_EQ(finish.count, GetParam().boards.size());
     ExpectMaximum(0, 0);  // no card is a PON card
   }
 }
 
-string S(const string& number) {
+string Section(const string& number) {
   return BoardSection("S" + number, number, "N" + number, {"GPON", "GE"}, {"XGSPON"});
 }
-ExpectedBoard B(uint32_t number) {
+ExpectedBoard Record(uint32_t number) {
   return {number, "N" + std::to_string(number), {"GPON", "GE"}, {"XGSPON"}};
 }
 const Names kS123 = {"S1", "S2", "S3"};
@@ -131,16 +126,16 @@ const string kDecoy3 = BoardSection("S3", "93", "Decoy", {"GE"});
 
 // A list of three boards, the second of which is this.
 string WithSecond(const string& second) {
-  return BoardList(kS123) + S("1") + second + S("3");
+  return BoardList(kS123) + Section("1") + second + Section("3");
 }
-const std::vector<ExpectedBoard> kAllThree = {B(1), B(2), B(3)};
-const std::vector<ExpectedBoard> kWithoutSecond = {B(1), B(3)};
+const std::vector<ExpectedBoard> kAllThree = {Record(1), Record(2), Record(3)};
+const std::vector<ExpectedBoard> kWithoutSecond = {Record(1), Record(3)};
 const string k59(59, 'n');
 const string k60(60, 'n');
 
 string Announce(const string& number) {
   return "[SupportedBoardType]\nSupportedBoardTypeNum=" + number +
-         "\nSupportedBoardType1=S1\nSupportedBoardType2=S2\n" + S("1") + S("2");
+         "\nSupportedBoardType1=S1\nSupportedBoardType2=S2\n" + Section("1") + Section("2");
 }
 
 string ManyBoards(int count) {
@@ -170,35 +165,55 @@ string WithCarriageReturns(const string& text) {
 }
 
 const LoadRow kLoads[] = {
-    {"Three", WithSecond(S("2")), 3, kAllThree},
-    {"ListSectionNotFirst", "; boards\n[X]\nType=9\n" + WithSecond(S("2")), 3, kAllThree},
-    {"SectionsInFrontOfTheListAreNotSeen", kDecoy3 + kDecoy2 + kDecoy1 + WithSecond(S("2")), 3,
-     kAllThree},
+    {"Three", WithSecond(Section("2")), 3, kAllThree},
+    {"ListSectionNotFirst", "; boards\n[X]\nType=9\n" + WithSecond(Section("2")), 3, kAllThree},
+    {"SectionsInFrontOfTheListAreNotSeen", kDecoy3 + kDecoy2 + kDecoy1 + WithSecond(Section("2")),
+     3, kAllThree},
     {"SectionsInFrontOfTheBoardBeforeAreNotSeen",
-     BoardList(kS123) + kDecoy3 + kDecoy2 + S("1") + kDecoy3 + S("2") + S("3"), 3, kAllThree},
-    {"EarlierSectionWithoutPortsIsNotSeen",
-     BoardList(kS123) + "[S2]\nPortNum=\n" + S("1") + S("2") + S("3"), 3, kAllThree},
-    {"FirstSectionBehindTheBoardBeforeWins", WithSecond(S("2") + kDecoy1 + kDecoy2), 3, kAllThree},
-    {"OtherSectionsBetween",
-     BoardList(kS123) + "[X]\n" + S("1") + "[Y]\nnonsense\n" + S("2") + "[Z]\nType=5\n" + S("3"), 3,
+     BoardList(kS123) + kDecoy3 + kDecoy2 + Section("1") + kDecoy3 + Section("2") + Section("3"), 3,
      kAllThree},
-    {"FirstListWins", BoardList({"S1"}) + BoardList(kS123) + S("1") + S("2") + S("3"), 1, {B(1)}},
-    {"CarriageReturns", WithCarriageReturns("; x\n" + kDecoy1 + WithSecond(S("2"))), 3, kAllThree},
-    {"NumberWithText", Announce(" +1x"), 1, {B(1)}},
-    {"MoreListedThanAnnounced", Announce("1"), 1, {B(1)}},
+    {"EarlierSectionWithoutPortsIsNotSeen",
+     BoardList(kS123) + "[S2]\nPortNum=\n" + Section("1") + Section("2") + Section("3"), 3,
+     kAllThree},
+    {"FirstSectionBehindTheBoardBeforeWins", WithSecond(Section("2") + kDecoy1 + kDecoy2), 3,
+     kAllThree},
+    {"OtherSectionsBetween",
+     BoardList(kS123) + "[X]\n" + Section("1") + "[Y]\nnonsense\n" + Section("2") +
+         "[Z]\nType=5\n" + Section("3"),
+     3, kAllThree},
+    {"FirstListWins",
+     BoardList({"S1"}) + BoardList(kS123) + Section("1") + Section("2") + Section("3"),
+     1,
+     {Record(1)}},
+    {"CarriageReturns", WithCarriageReturns("; x\n" + kDecoy1 + WithSecond(Section("2"))), 3,
+     kAllThree},
+    {"NumberWithText", Announce(" +1x"), 1, {Record(1)}},
+    {"MoreListedThanAnnounced", Announce("1"), 1, {Record(1)}},
     {"AsManyAsPossible", ManyBoards(100), 100, ManyRecords(100)},
-    {"SameSectionTwice", BoardList({"S1", "S1", "S2"}) + S("1") + S("2"), 3, {B(1), B(1), B(2)}},
+    {"SameSectionTwice",
+     BoardList({"S1", "S1", "S2"}) + Section("1") + Section("2"),
+     3,
+     {Record(1), Record(1), Record(2)}},
     {"SameTypeTwice",
      WithSecond(BoardSection("S2", "1", "Other")),
      3,
-     {B(1), {1, "Other", {}, {}}, B(3)}},
-    {"EmptyType", WithSecond(BoardSection("S2", "", "N2")), 3, {B(1), {0, "N2", {}, {}}, B(3)}},
-    {"TypeIsText", WithSecond(BoardSection("S2", "PON", "N2")), 3, {B(1), {0, "N2", {}, {}}, B(3)}},
+     {Record(1), {1, "Other", {}, {}}, Record(3)}},
+    {"EmptyType",
+     WithSecond(BoardSection("S2", "", "N2")),
+     3,
+     {Record(1), {0, "N2", {}, {}}, Record(3)}},
+    {"TypeIsText",
+     WithSecond(BoardSection("S2", "PON", "N2")),
+     3,
+     {Record(1), {0, "N2", {}, {}}, Record(3)}},
     {"TypeAbove32Bits",
      WithSecond(BoardSection("S2", "4294967297", "N2")),
      3,
-     {B(1), {2147483647, "N2", {}, {}}, B(3)}},
-    {"LongestName", WithSecond(BoardSection("S2", "2", k59)), 3, {B(1), {2, k59, {}, {}}, B(3)}},
+     {Record(1), {2147483647, "N2", {}, {}}, Record(3)}},
+    {"LongestName",
+     WithSecond(BoardSection("S2", "2", k59)),
+     3,
+     {Record(1), {2, k59, {}, {}}, Record(3)}},
 };
 INSTANTIATE_TEST_SUITE_P(Good, LoadServiceBoards, testing::ValuesIn(kLoads),
                          testing::PrintToStringParamName());
@@ -235,25 +250,26 @@ const LoadRow kPartialLoads[] = {
     {"ListEntryMissing",
      "[SupportedBoardType]\nSupportedBoardTypeNum=3\nSupportedBoardType1=S1\n"
      "SupportedBoardType3=S3\n" +
-         S("1") + S("2") + S("3"),
+         Section("1") + Section("2") + Section("3"),
      3, kWithoutSecond, NoEntry("-2", "2")},
     {"FirstListEntryMissing",
-     "[SupportedBoardType]\nSupportedBoardTypeNum=2\nSupportedBoardType2=S2\n" + kDecoy1 + S("2"),
+     "[SupportedBoardType]\nSupportedBoardTypeNum=2\nSupportedBoardType2=S2\n" + kDecoy1 +
+         Section("2"),
      2,
-     {B(2)},
+     {Record(2)},
      NoEntry("-2", "1")},
     {"AllListEntriesMissing",
-     "[SupportedBoardType]\nSupportedBoardTypeNum=2\n" + S("1"),
+     "[SupportedBoardType]\nSupportedBoardTypeNum=2\n" + Section("1"),
      2,
      {},
      NoEntry("-2", "1") + NoEntry("-2", "2")},
-    {"FewerListedThanAnnounced", Announce("3"), 3, {B(1), B(2)}, NoEntry("-2", "3")},
+    {"FewerListedThanAnnounced", Announce("3"), 3, {Record(1), Record(2)}, NoEntry("-2", "3")},
     {"BrokenEntryInTheList",
      "[SupportedBoardType]\nSupportedBoardTypeNum=2\nSupportedBoardType1=S1\nnonsense\n"
      "SupportedBoardType2=S2\n" +
-         S("1") + S("2"),
+         Section("1") + Section("2"),
      2,
-     {B(1)},
+     {Record(1)},
      NoEntry("-14", "2")},
     {"NameMissing", WithSecond("[S2]\nType=2\n" + kNoNumbers), 3, kWithoutSecond, NoName("-2")},
     {"NameTooLong", WithSecond(BoardSection("S2", "2", k60)), 3, kWithoutSecond,
@@ -283,12 +299,12 @@ const LoadRow kPartialLoads[] = {
                "NameKeySpecialPort1, ulIndex = 0"),
      2},
     {"SearchGoesOnFromAFaultyBoard",
-     BoardList(kS123) + S("1") + kDecoy3 + "[S2]\nType=2\n" + kNoNumbers + S("3"), 3,
+     BoardList(kS123) + Section("1") + kDecoy3 + "[S2]\nType=2\n" + kNoNumbers + Section("3"), 3,
      kWithoutSecond, NoName("-2")},
     {"FaultyBoardTwice",
-     BoardList({"S2", "S2", "S3"}) + "[S2]\nType=2\n" + S("3"),
+     BoardList({"S2", "S2", "S3"}) + "[S2]\nType=2\n" + Section("3"),
      3,
-     {B(3)},
+     {Record(3)},
      NoName("-2") + NoName("-2")},
 };
 INSTANTIATE_TEST_SUITE_P(Partial, LoadServiceBoards, testing::ValuesIn(kPartialLoads),
@@ -316,7 +332,7 @@ TEST_P(LoadNoServiceBoards, ReportsAnEmptyListAndFindsNoMaximum) {
     EXPECT_TRUE(test::FakePlatform::Get().asked.empty());
     EXPECT_EQ(faults.opens.count(), 1);
     EXPECT_EQ(faults.allocations.count(), 0);
-    ExpectAllClosed(faults);
+    test::ExpectAllClosed(faults);
   }
 }
 
@@ -376,9 +392,9 @@ const FailRow kFails[] = {
     {"Above31Bits", Announce("2147483648"), -19, TooMany("2147483647")},
     {"Above32Bits", Announce("4294967297"), -19, TooMany("2147483647")},
     {"Below32Bits", Announce("-4294967295"), -19, TooMany("-2147483648")},
-    {"NoSection", S("1"), -31, NoNumber("-1")},
+    {"NoSection", Section("1"), -31, NoNumber("-1")},
     {"SectionOfOtherCase", "[supportedboardtype]\nSupportedBoardTypeNum=1\n", -31, NoNumber("-1")},
-    {"NoKey", "[SupportedBoardType]\nSupportedBoardType1=S1\n" + S("1"), -31, NoNumber("-2")},
+    {"NoKey", "[SupportedBoardType]\nSupportedBoardType1=S1\n" + Section("1"), -31, NoNumber("-2")},
     {"BrokenEntry", "[SupportedBoardType]\nnonsense\nSupportedBoardTypeNum=1\n", -31,
      NoNumber("-14")},
     {"BrokenHeader", "[Broken\n" + Announce("1"), -31, NoNumber("-14")},
@@ -422,7 +438,7 @@ void AbandonServiceBoards::ExpectToAbandon(const AbandonRow& row, int32_t debug)
   EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardTypeNum, 9u);  // untouched
   ExpectMaximum(0x7e7e, 0x6d6d);
   EXPECT_EQ(finish.calls, 0);
-  ExpectAllClosed(faults);
+  test::ExpectAllClosed(faults);
   // The boards stay where they are, and only the count does not tell of them.
   gstSupportedBoardType.ulSupportedBoardTypeNum = static_cast<uint32_t>(row.boards.size());
   ExpectBoards(faults, row.announced, row.boards);
@@ -441,49 +457,65 @@ string NoSection(const string& section, const string& code = "-1") {
 }
 
 const AbandonRow kAbandons[] = {
-    {"FirstSectionMissing", BoardList(kS123) + S("2") + S("3"), 3, {}, NoSection("S1")},
-    {"SecondSectionMissing", BoardList(kS123) + S("1") + S("3"), 3, {B(1)}, NoSection("S2")},
-    {"LastSectionMissing", BoardList(kS123) + S("1") + S("2"), 3, {B(1), B(2)}, NoSection("S3")},
-    {"SectionInFrontOfTheList", S("1") + BoardList({"S1"}), 1, {}, NoSection("S1")},
-    {"SecondSectionInFrontOfTheList",
-     S("2") + BoardList(kS123) + S("1") + S("3"),
+    {"FirstSectionMissing", BoardList(kS123) + Section("2") + Section("3"), 3, {}, NoSection("S1")},
+    {"SecondSectionMissing",
+     BoardList(kS123) + Section("1") + Section("3"),
      3,
-     {B(1)},
+     {Record(1)},
+     NoSection("S2")},
+    {"LastSectionMissing",
+     BoardList(kS123) + Section("1") + Section("2"),
+     3,
+     {Record(1), Record(2)},
+     NoSection("S3")},
+    {"SectionInFrontOfTheList", Section("1") + BoardList({"S1"}), 1, {}, NoSection("S1")},
+    {"SecondSectionInFrontOfTheList",
+     Section("2") + BoardList(kS123) + Section("1") + Section("3"),
+     3,
+     {Record(1)},
      NoSection("S2")},
     {"SameSectionAgainAfterAnother",
-     BoardList({"S1", "S2", "S1"}) + S("1") + S("2"),
+     BoardList({"S1", "S2", "S1"}) + Section("1") + Section("2"),
      3,
-     {B(1), B(2)},
+     {Record(1), Record(2)},
      NoSection("S1")},
-    {"EntryIsEmpty", BoardList({"S1", ""}) + S("1"), 2, {B(1)}, NoSection("")},
-    {"TypeMissing", WithSecond("[S2]\nName=N2\n" + kNoNumbers), 3, {B(1)}, NoSection("S2", "-2")},
-    {"TypeInTheNextSectionOfTheName",
-     WithSecond("[S2]\nName=N2\n" + S("2")),
+    {"EntryIsEmpty", BoardList({"S1", ""}) + Section("1"), 2, {Record(1)}, NoSection("")},
+    {"TypeMissing",
+     WithSecond("[S2]\nName=N2\n" + kNoNumbers),
      3,
-     {B(1)},
+     {Record(1)},
+     NoSection("S2", "-2")},
+    {"TypeInTheNextSectionOfTheName",
+     WithSecond("[S2]\nName=N2\n" + Section("2")),
+     3,
+     {Record(1)},
      NoSection("S2", "-2")},
     {"BrokenEntryBeforeTheType",
      WithSecond("[S2]\nnonsense\nType=2\n"),
      3,
-     {B(1)},
+     {Record(1)},
      NoSection("S2", "-14")},
-    {"BrokenHeaderBetween", WithSecond("[Broken\n" + S("2")), 3, {B(1)}, NoSection("S2", "-14")},
+    {"BrokenHeaderBetween",
+     WithSecond("[Broken\n" + Section("2")),
+     3,
+     {Record(1)},
+     NoSection("S2", "-14")},
     {"EntryBeforeTheTypeTooLong",
      WithSecond("[S2]\nX=" + string(500, 'a') + "+\n" + string(20, 'b') + "\nType=2\n"),
      3,
-     {B(1)},
+     {Record(1)},
      NoSection("S2", "-22")},
     {"AfterAFaultyBoard",
-     BoardList({"S1", "S2", "S3"}) + S("1") + S("3") + "[S2]\nType=2\n" + kNoNumbers,
+     BoardList({"S1", "S2", "S3"}) + Section("1") + Section("3") + "[S2]\nType=2\n" + kNoNumbers,
      3,
-     {B(1)},
+     {Record(1)},
      NoName("-2") + NoSection("S3")},
     {"AfterAMissingEntry",
      "[SupportedBoardType]\nSupportedBoardTypeNum=3\nSupportedBoardType2=S2\n"
      "SupportedBoardType3=S1\n" +
-         S("1") + S("2"),
+         Section("1") + Section("2"),
      3,
-     {B(2)},
+     {Record(2)},
      NoEntry("-2", "1") + NoSection("S1")},
 };
 INSTANTIATE_TEST_SUITE_P(ServiceBoards, AbandonServiceBoards, testing::ValuesIn(kAbandons),
@@ -499,10 +531,10 @@ AbandonRow Swapped(int count, int first, int second) {
   }
   row.file = BoardList(sections);
   for (int i = 1; i <= count; ++i) {
-    row.file += S(std::to_string(i == first ? second : i == second ? first : i));
+    row.file += Section(std::to_string(i == first ? second : i == second ? first : i));
   }
   for (int i = 1; i <= first; ++i) {
-    row.boards.push_back(B(static_cast<uint32_t>(i)));
+    row.boards.push_back(Record(static_cast<uint32_t>(i)));
   }
   row.console = NoSection("S" + std::to_string(first + 1));
   return row;
@@ -581,11 +613,11 @@ TEST_F(ServiceBoards, MissingFile) {
 // The number; for each board its place in the list, its type twice, its name and
 // two numbers; and each port.
 TEST_F(ServiceBoards, LookupsOfALoad) {
-  const string file = WithSecond(S("2"));
+  const string file = WithSecond(Section("2"));
   BoardFaults faults(file);
   EXPECT_EQ(ddReadAllSupportedBoardInformation(BoardFaults::kPath), 0);
   EXPECT_EQ(faults.opens.count(), 1 + 3 * (6 + 3));
-  ExpectAllClosed(faults);
+  test::ExpectAllClosed(faults);
 }
 
 // Line numbers count from where a search began: here from the list's own header.
