@@ -1,0 +1,120 @@
+// One run of the library; see the header.
+#include "fuzz/definition_file.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+#include "fuzz/hostile_names.h"
+#include "fuzz/platform.h"
+#include "fuzz/show.h"
+#include "support/definition_file.h"
+#include "support/fake_platform.h"
+#include "support/faults.h"
+#include "support/leaks.h"
+#include "support/tables.h"
+#include "sys_context/context.h"
+#include "sys_context/olt.h"
+#include "sys_context/onu.h"
+#include "threads/sweeps.h"
+
+// The card's memory: with AddressSanitizer, more than this cannot be had.
+extern "C" const char* __asan_default_options();
+const char* __asan_default_options() {
+  return "max_allocation_size_mb=64:allocator_may_return_null=1:quarantine_size_mb=16";
+}
+
+namespace fuzz {
+namespace {
+
+using test::FakePlatform;
+using test::Faults;
+
+// Some are one in so many.
+constexpr size_t kShares = 8;
+
+// The sweeps of single maps take those of the first main board.
+bool CanAsk(const test::Sweep& sweep) {
+  const std::string_view query = sweep.query;
+  return gstSupportedMainBoardType.ulSupportedBoardTypeNum != 0 ||
+         (query != "ddGetSwitchChipPhyPortFromLogicPort" &&
+          query != "ddGetSwitchChipLogicPortFromPhyPort");
+}
+
+void Ask(size_t first, size_t step) {
+  const std::vector<test::Sweep> sweeps = test::AllSweeps();
+  for (size_t i = first; i < sweeps.size(); i += step) {
+    if (CanAsk(sweeps[i])) {
+      test::Answers answers;
+      sweeps[i].ask(answers);
+      FakePlatform::TakeAsked();
+    }
+  }
+}
+
+// kept as is in the library: a section out of order ends the load, and the records read so far
+// stay in the array but are not counted. Counts them, so that they can be released.
+template <typename Record>
+void CountForgotten(const Faults& faults, Record** records, uint32_t& count) {
+  const auto array = faults.blocks.find(records);
+  if (count != 0 || array == faults.blocks.end()) {
+    return;
+  }
+  const size_t places = array->second / sizeof *records;
+  count = static_cast<uint32_t>(std::find(records, records + places, nullptr) - records);
+}
+
+void ReleaseLost(Faults& faults, std::vector<size_t>& sizes) {
+  for (void* const block : test::LostBlocks(faults)) {
+    sizes.push_back(faults.blocks[block]);
+    std::free(block);
+  }
+}
+
+}  // namespace
+
+Outcome Run(std::string_view bytes, int32_t debug, Queries queries) {
+  const uint32_t seed = SeedOf(bytes);
+  test::ResetTables();
+  FakePlatform::Reset();
+  PreparePlatform(bytes, seed);
+  ddDebugPrint = debug;
+
+  Outcome outcome;
+  const test::DefinitionFile file(bytes);
+  Faults faults;
+  faults.paths["/mnt/work/device_definition.ini"] = file.path();
+  outcome.code = ddInit();
+  FitCards(seed);
+  ShowEverything();
+  AskHostileNames();
+  if (queries == Queries::kAll) {
+    Ask(0, 1);
+  } else {
+    Ask(seed % kShares, kShares);
+  }
+  CountForgotten(faults, gstSupportedBoardType.pBoardTypeArray,
+                 gstSupportedBoardType.ulSupportedBoardTypeNum);
+  CountForgotten(faults, gstSupportedOnuType.pOnuTypeArray,
+                 gstSupportedOnuType.ulSupportedOnuTypeNum);
+  ReleaseLost(faults, outcome.lost);
+  test::ResetTables();
+  outcome.left = faults.blocks.size();
+  return outcome;
+}
+
+// kept as is in the library: of a full list the ports themselves are not released, and a
+// board's serving ports are not when one of its special ports cannot be had.
+bool IsAccountedFor(const Outcome& outcome) {
+  const auto lost = [&](size_t size) {
+    return static_cast<size_t>(std::count(outcome.lost.begin(), outcome.lost.end(), size));
+  };
+  static_assert(sizeof(OltPortInformation) != sizeof(OnuPortTypeInformation));
+  static_assert(MAX_ONU_LAN_NUM_PER_ONU % MAX_ONU_PON_NUM_PER_ONU == 0);
+  const size_t board_ports = lost(sizeof(OltPortInformation));
+  const size_t onu_ports = lost(sizeof(OnuPortTypeInformation));
+  return outcome.left == 0 && board_ports + onu_ports == outcome.lost.size() &&
+         onu_ports % MAX_ONU_PON_NUM_PER_ONU == 0;
+}
+
+}  // namespace fuzz
