@@ -6,6 +6,7 @@
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace bench {
 
@@ -22,6 +23,11 @@ inline constexpr Loader kLoaders[] = {
     {"main boards", ddReadAllSupportedMainBoardInformation},
     {"service boards", ddReadAllSupportedBoardInformation},
     {"frame", ddReadFrameInformation},
+    {"ONU PON port types", ddReadAllSupportedOnuPonInformation},
+    {"ONU LAN port types", ddReadAllSupportedOnuLanInformation},
+    {"ONU POTS port types", ddReadAllSupportedOnuPotsInformation},
+    {"ONU special port types", ddReadAllSupportedOnuSpecialPortInformation},
+    {"ONU types", ddReadAllSupportedOnuInformation},
 };
 
 }  // namespace bench

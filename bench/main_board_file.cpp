@@ -3,37 +3,19 @@
 
 #include <numeric>
 
+#include "bench/entry_writer.h"
+
 namespace bench {
 namespace {
 
-class Writer {
- public:
-  explicit Writer(MainBoardFile& file) : file_(file) {}
-
-  void Section(const std::string& name) {
-    section_ = name;
-    file_.text += "\n[" + name + "]\n";
-  }
-
-  void Entry(const std::string& key, const std::string& value) {
-    file_.text += key + " = " + value + "\n";
-    file_.lookups.push_back({section_, key, value, file_.text.size()});
-  }
-  void Entry(const std::string& key, size_t value) { Entry(key, std::to_string(value)); }
-
- private:
-  MainBoardFile& file_;
-  std::string section_;
-};
-
 // Every map is another rotation of the ports.
-void WriteMap(Writer& writer, const std::string& prefix, size_t ports, size_t shift) {
+void WriteMap(EntryWriter& writer, const std::string& prefix, size_t ports, size_t shift) {
   for (size_t port = 1; port <= ports; ++port) {
     writer.Entry(prefix + "SwitchChipLogicPort" + std::to_string(port), (port + shift) % ports + 1);
   }
 }
 
-void WriteMainBoard(Writer& writer, size_t number, const MainBoards& boards) {
+void WriteMainBoard(EntryWriter& writer, size_t number, const MainBoards& boards) {
   writer.Section("MainBoard_" + std::to_string(number));
   writer.Entry("Type", 1000 + number);
   writer.Entry("Name", "M" + std::to_string(number));
@@ -58,7 +40,7 @@ size_t MainBoardFile::BytesScanned() const {
 
 MainBoardFile WriteMainBoards(const MainBoards& boards, OtherSections others) {
   MainBoardFile file;
-  Writer writer(file);
+  EntryWriter writer(file.text, file.lookups);
   writer.Section("SupportedMainBoardType");
   writer.Entry("SupportedMainBoardTypeNum", boards.boards);
   for (size_t number = 1; number <= boards.boards; ++number) {

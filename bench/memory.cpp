@@ -37,7 +37,7 @@ struct Block {
 };
 
 // What is on the heap now. It must not allocate itself.
-constinit Block blocks[100000] = {};
+constinit Block blocks[400000] = {};
 constinit Use now = {};
 constinit Use peak = {};
 

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "sys_context/context.h"
+#include "sys_context/onu.h"
 #include "sys_context/platform.h"
 
 namespace bench::plain {
@@ -115,6 +116,23 @@ uint32_t BalancePort(uint32_t slot, uint32_t port, uint32_t chip) {
   });
 }
 
+uint32_t OnuLanPortType(const char* name) {
+  return Place(gstSupportedOnuLanType.ulSupportedOnuLanTypeNum, [=](uint32_t i) {
+    return std::strcmp(gstSupportedOnuLanType.pOnuLanTypeArray[i]->acName, name) == 0;
+  });
+}
+
+uint32_t OnuType(uint32_t type) {
+  return Place(gstSupportedOnuType.ulSupportedOnuTypeNum,
+               [=](uint32_t i) { return gstSupportedOnuType.pOnuTypeArray[i]->ulOnuType == type; });
+}
+
+uint32_t OnuType(const char* name) {
+  return Place(gstSupportedOnuType.ulSupportedOnuTypeNum, [=](uint32_t i) {
+    return std::strcmp(gstSupportedOnuType.pOnuTypeArray[i]->acName, name) == 0;
+  });
+}
+
 uint32_t PhyPort(const PortMap& map, uint32_t logic_port) {
   for (const PortPair& pair : map.astPortPair) {
     if (pair.usLogicPort == logic_port) {
@@ -171,6 +189,14 @@ uint32_t UplinkPorts(uint32_t* logic_ports) {
     }
   }
   return found;
+}
+
+uint32_t OnuTypes(uint32_t* types) {
+  const SupportedOnuType& table = gstSupportedOnuType;
+  for (uint32_t i = 0; i < table.ulSupportedOnuTypeNum; ++i) {
+    types[i] = table.pOnuTypeArray[i]->ulOnuType;
+  }
+  return table.ulSupportedOnuTypeNum;
 }
 
 }  // namespace bench::plain

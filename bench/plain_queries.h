@@ -24,6 +24,9 @@ uint32_t Slot(const SlotClassInformation& slots, uint32_t slot);
 uint32_t BoardOfSlot(uint32_t slot, uint32_t type);
 uint32_t LogicPort(uint32_t slot, uint32_t port);
 uint32_t BalancePort(uint32_t slot, uint32_t port, uint32_t chip);
+uint32_t OnuLanPortType(const char* name);
+uint32_t OnuType(uint32_t type);
+uint32_t OnuType(const char* name);
 
 // 0 without.
 uint32_t PhyPort(const PortMap& map, uint32_t logic_port);
@@ -34,5 +37,6 @@ uint32_t Slots(const SlotClassInformation& slots, uint32_t* list);
 uint32_t PortsOfSlot(uint32_t slot, uint8_t flag, uint32_t* logic_ports);
 uint32_t UserPorts(uint32_t* logic_ports);
 uint32_t UplinkPorts(uint32_t* logic_ports);
+uint32_t OnuTypes(uint32_t* types);
 
 }  // namespace bench::plain

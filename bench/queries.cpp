@@ -5,39 +5,55 @@
 #include <cstdio>
 #include <iterator>
 
+#include "bench/full_onu_table.h"
 #include "bench/loaders.h"
 #include "bench/plain_queries.h"
+#include "support/sample_onu_service.h"
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
+#include "sys_context/onu.h"
 
 namespace bench {
 namespace {
 
+using test::kServedOnuName;
+using test::kServedOnuPorts;
+using test::kServedOnuType;
+
 // ---- Asking ------------------------------------------------------------------
 
-// The compiler must make every call, and must believe that it may have done anything.
-template <typename Call>
+// The tables as they were loaded.
+struct LoadedTables {
+  LoadedTables() {}  // so that no compiler calls it unused
+};
+
+// Calls in a row, with such tables. The compiler must make every call, and must believe
+// that it may have done anything.
+template <typename Tables, typename Call>
+Answer Repeat(size_t times) {
+  [[maybe_unused]] const Tables tables;
+  Answer answer;
+  for (; times > 0; --times) {
+    answer = Call{}();
+    asm volatile("" : : "m"(answer) : "memory");
+  }
+  return answer;
+}
+
+template <typename Tables = LoadedTables, typename Call>
 constexpr Question Ask(Call, int32_t expected_code, uint32_t expected_value) {
   return {
-      .ask =
-          [](size_t times) {
-            Answer answer;
-            for (; times > 0; --times) {
-              answer = Call{}();
-              asm volatile("" : : "m"(answer) : "memory");
-            }
-            return answer;
-          },
+      .ask = Repeat<Tables, Call>,
       .expected = {.code = expected_code, .value = expected_value},
   };
 }
 
 // By a plain loop.
-template <typename Call>
+template <typename Tables = LoadedTables, typename Call>
 constexpr Question Loop(Call, uint32_t expected_value) {
   constexpr auto kCall = [] { return Answer{.value = Call{}()}; };
-  return Ask(kCall, 0, expected_value);
+  return Ask<Tables>(kCall, 0, expected_value);
 }
 
 template <auto query, typename... Arguments>
@@ -87,6 +103,13 @@ constexpr uint32_t kVt48a = 598;   // 12th, 48 ports
 constexpr uint32_t kUp4x = 3301;   // 15th, has a special map
 constexpr uint32_t kHcua = 624;    // 22nd
 
+// An ONU type with ports of each kind, the 32nd of 68; and the 100th of 200.
+constexpr uint32_t kX142d = 6203;
+constexpr char kX142dName[] = "KT-X142D";
+constexpr uint32_t kOnu100 = FullOnuType(100);
+constexpr char kOnu100Name[] = "KT-FULL-100";
+constexpr uint32_t kUsb = 4;
+
 const PortMap& DefaultMap() {
   return gstSupportedMainBoardType.pBoardTypeArray[0]->astPortMap[0];
 }
@@ -113,6 +136,12 @@ Answer SpecialMap(uint32_t main_board, uint32_t board) {
 Answer PhyPortUsers(uint32_t phy_port) {
   uint32_t length = 0;
   const int32_t code = ddGetSwitchChipLogicPortFromPhyPort(phy_port, &DefaultMap(), list, &length);
+  return {.code = code, .value = length};
+}
+
+Answer AllOnuTypes() {
+  uint32_t length = 0;
+  const int32_t code = ddGetAllSupportedOnuType(&length, list);
   return {.code = code, .value = length};
 }
 
@@ -228,6 +257,58 @@ constexpr Query kQueries[] = {
     {"ddRunGetSwitchChipPhyPortFromLogicPort", "boards, maps, pairs",
      Ask([] { return Number<ddRunGetSwitchChipPhyPortFromLogicPort>(17U); }, 0, 68),
      Ask([] { return Number<ddRunGetSwitchChipPhyPortFromLogicPort>(146U); }, 0, 212)},
+    {"ddIsOnuLanTypeSupportedByType", "6 port types",
+     Ask([] { return Numbers<ddIsOnuLanTypeSupportedByType>(3U); }, 0, 2),
+     Ask([] { return Numbers<ddIsOnuLanTypeSupportedByType>(kNoType); }, -32, 0)},
+    {"ddIsOnuLanTypeSupportedByName", "6 port types",
+     Ask([] { return Numbers<ddIsOnuLanTypeSupportedByName>("2.5GE"); }, 0, 2),
+     Ask([] { return Numbers<ddIsOnuLanTypeSupportedByName>(kNoName); }, -32, 0),
+     Loop([] { return plain::OnuLanPortType(kNoName); }, 0)},
+    {"ddGetOnuLanPortNumByType", "68 ONU types",
+     Ask([] { return Number<ddGetOnuLanPortNumByType>(kX142d); }, 0, 4),
+     Ask([] { return Number<ddGetOnuLanPortNumByType>(kServedOnuType); }, 0, 24),
+     Loop([] { return plain::OnuType(kServedOnuType); }, 0)},
+    {"ddGetOnuLanPortTypeByType", "68 ONU types",
+     Ask([] { return Number<ddGetOnuLanPortTypeByType>(kX142d, 4U); }, 0, 2),
+     Ask([] { return Number<ddGetOnuLanPortTypeByType>(kServedOnuType, 4U); }, 0, 32)},
+    {"ddGetOnuSpecialPortNumByType", "68 ONU types, ports",
+     Ask([] { return Number<ddGetOnuSpecialPortNumByType>(kX142d, kUsb); }, 0, 1),
+     Ask([] { return Number<ddGetOnuSpecialPortNumByType>(kServedOnuType, kServedOnuPorts); }, 0,
+         24)},
+    {"ddGetOnuSpecialPortTypeList", "68 ONU types, ports",
+     Ask([] { return List<ddGetOnuSpecialPortTypeList>(kX142d); }, 0, 3),
+     Ask([] { return List<ddGetOnuSpecialPortTypeList>(kServedOnuType); }, 0, 1)},
+    {"ddGetOnuNameByType", "68 ONU types",
+     Ask([] { return Name<ddGetOnuNameByType>(kX142d); }, 0, 'K'),
+     Ask([] { return Name<ddGetOnuNameByType>(kServedOnuType); }, 0, 'K')},
+    {"ddGetOnuTypeByName", "68 ONU types",
+     Ask([] { return Number<ddGetOnuTypeByName>(kX142dName); }, 0, kX142d),
+     Ask([] { return Number<ddGetOnuTypeByName>(kServedOnuName); }, 0, kServedOnuType),
+     Loop([] { return plain::OnuType(kServedOnuName); }, 0)},
+    {"ddIsOnuSupportedByType", "68 ONU types",
+     Ask([] { return Number<ddIsOnuSupportedByType>(kX142d); }, 0, 1),
+     Ask([] { return Number<ddIsOnuSupportedByType>(kServedOnuType); }, 0, 1)},
+    {"ddGetSupportedOnuMaxLanNum", "-",
+     Ask([] { return Number<ddGetSupportedOnuMaxLanNum>(); }, 0, 32)},
+    {"ddGetAllSupportedOnuType",
+     "68 ONU types",
+     Ask([] { return AllOnuTypes(); }, 0, 68),
+     {},
+     Loop([] { return plain::OnuTypes(list); }, 68)},
+    {"ddGetOnuLanPortNumByType, full table", "200 ONU types",
+     Ask<FullOnuTable>([] { return Number<ddGetOnuLanPortNumByType>(kOnu100); }, 0, 4),
+     Ask<FullOnuTable>([] { return Number<ddGetOnuLanPortNumByType>(kServedOnuType); }, 0, 24),
+     Loop<FullOnuTable>([] { return plain::OnuType(kServedOnuType); }, 0)},
+    {"ddGetOnuTypeByName, full table", "200 ONU types",
+     Ask<FullOnuTable>([] { return Number<ddGetOnuTypeByName>(kOnu100Name); }, 0, kOnu100),
+     Ask<FullOnuTable>([] { return Number<ddGetOnuTypeByName>(kServedOnuName); }, 0,
+                       kServedOnuType),
+     Loop<FullOnuTable>([] { return plain::OnuType(kServedOnuName); }, 0)},
+    {"ddGetAllSupportedOnuType, full table",
+     "200 ONU types",
+     Ask<FullOnuTable>([] { return AllOnuTypes(); }, 0, 200),
+     {},
+     Loop<FullOnuTable>([] { return plain::OnuTypes(list); }, 200)},
 };
 
 }  // namespace
