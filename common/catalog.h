@@ -142,8 +142,8 @@ int32_t FindToCopy(const CopyQuery& query, FindName find, const char* name, uint
   return kOk;
 }
 
-// Answers it with a record of the caller's own, or null after a failure other than a
-// null argument.
+// Answers it with a record of the caller's own. After a failure other than a null
+// argument the output is null, unless the query keeps it at an empty place.
 template <typename Record>
 int32_t CopyByName(const CopyQuery& query, FindName find, Record* const* records, const char* name,
                    Record** output) {

@@ -134,12 +134,12 @@ SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuTypeBaseInfomation(void* vty);
  * -10: no list; -2: the place is empty; -14: more ports than an ONU can have. */
 SYS_CONTEXT_API int32_t ddPrintOneSupportedOnuInfomation(uint32_t ulOnuIndex, void* vty);
 
-/* A line for each ONU type, then each with its ports; empty places are passed over. -21:
- * more than 200 types; -10: no list. */
+/* A line for each ONU type, with the pauses of that listing, then each with its ports;
+ * empty places are passed over. -21: more than 200 types; -10: no list. */
 SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuTypeInfomation(void* vty);
 
-/* Every table. -2 without a terminal. A table that cannot be shown says so in its
- * place. */
+/* Every table, with the pauses of their listings. -2 without a terminal. A table that
+ * cannot be shown says so in its place. */
 SYS_CONTEXT_API int32_t ddPrintAllContextInformation(void* vty);
 
 SYS_CONTEXT_END

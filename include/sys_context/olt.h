@@ -325,7 +325,7 @@ SYS_CONTEXT_API int32_t ddAddSupportedSpecialPortToBoardObj(const char* strFileN
 /*
  * Releases a board's record, its arrays and its ports. The ports of a list of 128
  * and more are not released.
- * Returns 0; -2 for a null pointer.
+ * Returns 0; -2 for a null pointer, which is always reported.
  */
 SYS_CONTEXT_API int32_t ddFreeOneBoardAllObj(BoardInformation* pstBoardInformation);
 

@@ -252,7 +252,7 @@ SYS_CONTEXT_API int32_t ddAddSupportedSpecialPortToOnuObj(const char* strFileNam
 /*
  * Releases an ONU type's record, its arrays and its ports. The ports of a list at its
  * limit (5 PON ports, 100 of another kind) and above are not released.
- * Returns 0; -2 for a null pointer.
+ * Returns 0; -2 for a null pointer, which is always reported.
  */
 SYS_CONTEXT_API int32_t ddFreeOneOnuAllObj(OnuInformation* pstOnuInformation);
 
