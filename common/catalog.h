@@ -46,10 +46,16 @@ struct TableCheck {
   return kOk;
 }
 
+// Can the record's field hold its name?
+template <typename Record>
+bool NameFits(const Record& record) {
+  return record.ulNameLen <= sizeof record.acName;
+}
+
 // Has the record this type, and a name that its field can hold?
 template <typename Record>
 bool HasTypeAndName(const Record& record, uint32_t type) {
-  return record.ulType == type && record.ulNameLen <= sizeof record.acName;
+  return record.ulType == type && NameFits(record);
 }
 
 // A query for the place of a name in a table.
@@ -85,7 +91,7 @@ int32_t AskForName(const NameQuery& query, uint32_t count, Record* const* record
     if (record == nullptr) {
       continue;
     }
-    if (record->ulNameLen > kFieldSize) {
+    if (!NameFits(*record)) {
       Report(Gate::kDebug, query.corrupt_length, record->ulNameLen, i);
       return kTextTooLong;
     }

@@ -17,7 +17,7 @@ int32_t ddGetOnuNameByType(uint32_t ulOnuType, char* pcOnuName) {
     return code;
   }
   const OnuInformation* const onu = FindOnu([=](const OnuInformation& candidate) {
-    return candidate.ulOnuType == ulOnuType && candidate.ulNameLen <= sizeof candidate.acName;
+    return candidate.ulOnuType == ulOnuType && NameFits(candidate);
   });
   if (onu == nullptr) {
     return cs_get_onu_name_by_type(ulOnuType, pcOnuName) == 0 ? kOk : kOnuServiceFailed;

@@ -174,7 +174,7 @@ int32_t FindType(const TypeQuery& query, const OnuPortTypeCatalog& catalog, uint
     if (record == nullptr) {
       continue;
     }
-    if (query.corrupt_length && record->ulNameLen > sizeof record->acName) {
+    if (query.corrupt_length && !NameFits(*record)) {
       Report(Gate::kDebug, *query.corrupt_length, record->ulNameLen, i);
       index = 0;
       return kTextTooLong;

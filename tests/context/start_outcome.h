@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 
+#include "support/onu_messages.h"
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
@@ -216,23 +217,14 @@ inline std::string NoMainCard() {
   return NoCard("MCXA", ", ulSlotListIndex = 1, ulSlotOut = 2");
 }
 
-// What the ONU type loader says of a type with ports that cannot be had. An adder of
-// ports fails with -1, but that of the LAN ports with -27.
-inline std::string NoOnu(const std::string& number, const std::string& adder,
-                         const std::string& code) {
-  return "\r\nddReadOneSupportedOnuInformation->" + adder + " err! strOnuTypeSection = U" + number +
-         "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! iResult = " +
-         code + ", section = U" + number;
-}
-// The same when a port is of a type that was left out.
+// What the ONU type loader says of a type with a port whose type was left out. An adder
+// of ports fails with -1, but that of the LAN ports with -27.
 inline std::string NoOnuPortType(const std::string& number, const std::string& kind,
                                  const std::string& key, const std::string& code) {
-  const std::string adder = "ddAddSupported" + kind + "ToOnuObj";
-  return "\r\n" + adder + "->ddIsOnu" + kind +
-         "TypeSupportedByName err! iResult = -32, strKey = " + key + ", ulIndex = 0" +
-         NoOnu(number, adder, code);
+  return NoPorts(kind, code, "U" + number,
+                 "->ddIsOnu" + kind + "TypeSupportedByName err! iResult = -32, strKey = " + key +
+                     ", ulIndex = 0");
 }
-constexpr char kNoOnuLeft[] = "\r\nddFindSupportedOnuMaxLanNum ok! ulSupportedOnuTypeNum = 0";
 // What is said of the ONU types when a catalog's only type was left out.
 inline std::string NoOnusOfPonType() {
   return NoOnuPortType("1", "Pon", "NameKeyPon1", "-1") +

@@ -277,25 +277,17 @@ string NoOnuSpecialPortTypeKey(const string& key) {
 constexpr OnuCounts kOnuPortTypes = {1, 1, 1, 1};
 
 string NoOnuEntry(const string& number) {
-  return "\r\nddReadAllSupportedOnuInformation err! iResult = %, section = SupportedOnuType, "
-         "key = SupportedOnuType" +
-         number;
+  return NoListKey("%", "SupportedOnuType" + number);
 }
 string NoOnuSection(const string& number) {
-  return "\r\nddReadAllSupportedOnuInformation err! iResult = %, section = U" + number +
-         ", key = Type" + DriverSays("ddReadAllSupportedOnuInformation", "-31");
+  return NoSection("%", "U" + number) + DriverSays("ddReadAllSupportedOnuInformation", "-31");
 }
 string NoOnuKey(const string& number, const string& key) {
-  return "\r\nddReadOneSupportedOnuInformation err! iResult = %, section = U" + number +
-         ", key = " + key +
-         "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! "
-         "iResult = -31, section = U" +
-         number;
+  return NoOwnKey("%", "U" + number, key);
 }
 string NoOnuPorts(const string& number, const string& kind, const string& key, const string& code) {
-  const string adder = "ddAddSupported" + kind + "ToOnuObj";
-  return "\r\n" + adder + " err! iResult = %, section = U" + number + ", key = " + key +
-         NoOnu(number, adder, code);
+  return NoPorts(kind, code, "U" + number,
+                 " err! iResult = %, section = U" + number + ", key = " + key);
 }
 
 }  // namespace

@@ -25,7 +25,6 @@ using test::kWithoutTheSecondOnu;
 using test::kWithoutTypesOfTheFirstOnu;
 using test::NoCardOfBoard;
 using test::NoMainCard;
-using test::NoOnu;
 using test::NoOnuOfLanType;
 using test::NoOnuOfPotsType;
 using test::NoOnuOfSpecialPortType;
@@ -147,21 +146,18 @@ string NoOnuTypeRecord(const string& kind, const string& record, const string& l
 }
 // ONU types.
 string NoOnuRecord(const string& number) {
-  return "\r\nddReadOneSupportedOnuInformation->malloc err! pstOnuInformation = 0x0"
-         "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! "
-         "iResult = -27, section = U" +
-         number;
+  return "\r\nddReadOneSupportedOnuInformation->malloc err! pstOnuInformation = 0x0" +
+         test::Left("-27", "U" + number);
 }
 string NoOnuPorts(const string& number, const string& named, const string& array,
                   const string& adder) {
   return "\r\n" + named + " err! pstOnuInformation->" + array + " = 0x0" +
-         NoOnu(number, adder, "-27");
+         test::NotAdded(adder, "-27", "U" + number);
 }
 string NoOnuPort(const string& number, const string& copy, const string& kind, const string& key,
                  const string& code) {
-  const string adder = "ddAddSupported" + kind + "ToOnuObj";
-  return copy + "\r\n" + adder + "->ddCreateOneOnu" + kind + "ObjByName err! strKey = " + key +
-         NoOnu(number, adder, code);
+  return copy + test::NoPorts(kind, code, "U" + number,
+                              "->ddCreateOneOnu" + kind + "ObjByName err! strKey = " + key);
 }
 constexpr char kNoPonCopy[] =
     "{\r\ndd_CreateOneOnuPonObjBySecName, pstOnuPonInformationOut = 0x0, ulIndex = 0}";

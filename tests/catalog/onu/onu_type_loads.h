@@ -8,6 +8,7 @@
 #include "catalog/onu/onu_type_files.h"
 #include "support/console.h"
 #include "support/leaks.h"
+#include "support/onu_messages.h"
 
 namespace test {
 
@@ -58,38 +59,5 @@ std::string Announce(const std::string& number);
 // So many ONU types of one PON port, and their records.
 std::string ManyOnus(uint32_t count);
 std::vector<ExpectedOnu> ManyRecords(uint32_t count);
-
-// ---- Messages of a load -------------------------------------------------------
-
-inline constexpr char kNoOnuLeft[] =
-    "\r\nddFindSupportedOnuMaxLanNum ok! ulSupportedOnuTypeNum = 0";
-
-inline std::string NoListKey(const std::string& code, const std::string& key) {
-  return "\r\nddReadAllSupportedOnuInformation err! iResult = " + code +
-         ", section = SupportedOnuType, key = " + key;
-}
-inline std::string NoSection(const std::string& code, const std::string& section) {
-  return "\r\nddReadAllSupportedOnuInformation err! iResult = " + code + ", section = " + section +
-         ", key = Type";
-}
-inline std::string Left(const std::string& code, const std::string& section) {
-  return "\r\nddReadAllSupportedOnuInformation->ddReadOneSupportedOnuInformation err! iResult = " +
-         code + ", section = " + section;
-}
-
-// A key of the section itself, and then the section, cannot be had.
-inline std::string NoOwnKey(const std::string& code, const std::string& section,
-                            const std::string& key) {
-  return "\r\nddReadOneSupportedOnuInformation err! iResult = " + code + ", section = " + section +
-         ", key = " + key + Left("-31", section);
-}
-
-// The ports of a kind, and then the section, cannot be had: "Lan", " err! ...".
-inline std::string NoPorts(const std::string& kind, const std::string& code,
-                           const std::string& section, const std::string& reason) {
-  const std::string adder = "ddAddSupported" + kind + "ToOnuObj";
-  return "\r\n" + adder + reason + "\r\nddReadOneSupportedOnuInformation->" + adder +
-         " err! strOnuTypeSection = " + section + Left(code, section);
-}
 
 }  // namespace test
