@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "catalog/frame/card_kinds.h"
 #include "catalog/frame/logic_port.h"
+#include "common/card_kinds.h"
 #include "common/codes.h"
 #include "common/messages.h"
 

@@ -4,8 +4,8 @@
 
 #include <cstdio>
 
-#include "catalog/frame/card_kinds.h"
 #include "catalog/olt/port_map_queries.h"
+#include "common/card_kinds.h"
 #include "common/codes.h"
 #include "common/messages.h"
 #include "sys_context/frame.h"

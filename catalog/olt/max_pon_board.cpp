@@ -1,6 +1,6 @@
 // The PON board with most serving ports.
 #include "catalog/olt/board_query.h"
-#include "sys_context/platform.h"
+#include "common/card_kinds.h"
 
 namespace sys_context {
 namespace {
@@ -9,9 +9,8 @@ constexpr TableCheck kTableCheck =
     BoardTableCheck("\r\nddFindSupportedBoardMaxPonNum err! ulSupportedBoardTypeNum = %d",
                     "\r\nddFindSupportedBoardMaxPonNum err! pBoardTypeArray = 0x%x");
 
-// The platform takes the type in 16 bits and answers 0 for yes.
 bool IsPonBoard(const BoardInformation& board) {
-  return caCheckCardTypeIsPonCard(static_cast<int16_t>(board.ulType)) == 0;
+  return IsCardOfKind(static_cast<int32_t>(board.ulType), caCheckCardTypeIsPonCard);
 }
 
 }  // namespace

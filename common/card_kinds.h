@@ -10,6 +10,7 @@ namespace sys_context {
 // A question to the platform: caCheckCardTypeIsEthCard and its like.
 using CardKind = int32_t (*)(int16_t card_type);
 
+// The platform takes the type in 16 bits.
 inline bool IsCardOfKind(int32_t card_type, CardKind kind) {
   constexpr int32_t kIsOfThatKind = 0;
   return kind(static_cast<int16_t>(card_type)) == kIsOfThatKind;
