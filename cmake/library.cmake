@@ -43,13 +43,15 @@ set(CMAKE_CXX_IMPLICIT_LINK_LIBRARIES "")
 function(sys_context_library name)
   add_library(${name} SHARED ${ARGN} ${SYS_CONTEXT_OBJECTS})
   # The compiler's own code, such as a division on ARM, comes in front of the last area.
+  # As a flag, the area keeps its place behind the libraries.
   target_link_libraries(${name}
     PUBLIC sys_context_headers
-    PRIVATE gcc $<TARGET_OBJECTS:sys_context_reserved_area_1>)
+    PRIVATE gcc -Wl,$<TARGET_OBJECTS:sys_context_reserved_area_1>)
+  add_dependencies(${name} sys_context_reserved_area_1)
   target_link_options(${name} PRIVATE -Wl,--version-script=${SYS_CONTEXT_VERSION_SCRIPT})
   set_target_properties(${name} PROPERTIES
     LINKER_LANGUAGE C
-    LINK_DEPENDS ${SYS_CONTEXT_VERSION_SCRIPT})
+    LINK_DEPENDS "${SYS_CONTEXT_VERSION_SCRIPT};$<TARGET_OBJECTS:sys_context_reserved_area_1>")
 endfunction()
 
 sys_context_library(sys_context)
