@@ -1,4 +1,6 @@
 // The command records, their handlers, and their installation in the shell.
+#include <arpa/inet.h>
+
 #include <cstdio>
 
 #include "common/codes.h"
@@ -70,6 +72,53 @@ SHOW_COMMAND(ddShowAllSupportedOnu_CMD, ddShowAllSupportedOnu_Func, "show contex
              ddPrintAllSupportedOnuTypeInfomation);
 SHOW_COMMAND(ddShowAllDevice_CMD, ddShowAllDevice_Func, "show context device_all",
              "show info.\ncontext info.\nall devices info.\n", ddPrintAllContextInformation);
+SHOW_COMMAND(ddShowContextFile_CMD, ddShowContextFile_Func, "show context file",
+             "show info.\ncontext info.\ncontext file info.\n", ddPrintContextFile);
+
+namespace sys_context {
+namespace {
+
+// The card does not upload to itself.
+bool IsOwnAddress(const char* address) {
+  return is_manage_ipAddr(inet_addr(address)) != 0 || diags_is_outbandip(address) != 0;
+}
+
+}  // namespace
+}  // namespace sys_context
+
+int32_t ddUploadContextFile_Func(CommandRecord*, void* vty, int32_t argc, char** argv) {
+  using namespace sys_context;
+  if (argc > 0 && IsOwnAddress(argv[0])) {
+    return kUploadNotTried;
+  }
+  constexpr int32_t kWords = 4;  // address, user name, password, file name
+  if (argc != kWords) {
+    vty_out(vty, "Command error!\r\n");
+    return kUploadNotTried;
+  }
+  vty_out(vty, "\r\nThis will need seconds of time, please wait...\r\n");
+  ddUploadContextFile(argv[0], argv[1], argv[2], argv[3], vty);
+  return kOk;
+}
+
+// kept as is: the command ends in a blank, the help has words of its own.
+COMMAND(ddUploadContextFile_CMD, ddUploadContextFile_Func,
+        "upload ftp context <A.B.C.D> <username> <password> <filename> ",
+        "Upload file for context file.\nUpload file to ftp server use ftp protocal.\n"
+        "Upload contex file.\nPlease input ftp server's IP address, such as A.B.C.D\n"
+        "Please input ftp user name.\nPlease input password for that ftp user.\n"
+        "Please input the file name.\n");
+
+int32_t show_optmodule_info_func(CommandRecord*, void* vty, int32_t argc, char** argv) {
+  const int32_t index = argc > 0 ? sys_context::ParseNumber(argv[0]) : 0;
+  show_optmodule_fileinfo_byindex(static_cast<uint16_t>(index), vty);
+  return sys_context::kOk;
+}
+
+// kept as is: the help announces 26 modules, however many there are.
+COMMAND(show_optmodule_info_cmd, show_optmodule_info_func,
+        "show optmodule fileinfo index <indexno>",
+        "show .\noptmodule.\nfile info.\nindex info.\nplease input index no 1~26.\n");
 
 namespace sys_context {
 namespace {
@@ -82,6 +131,7 @@ constexpr CommandRecord* kRecords[] = {
     &ddShowFrameInfo_CMD,           &ddShowOnuPonInfo_CMD,         &ddShowOnuLanInfo_CMD,
     &ddShowOnuPotsInfo_CMD,         &ddShowOnuSpecialPortInfo_CMD, &ddShowAllSupportedOnuType_CMD,
     &ddShowOneSupportedOnuInfo_CMD, &ddShowAllSupportedOnu_CMD,    &ddShowAllDevice_CMD,
+    &ddShowContextFile_CMD,         &ddUploadContextFile_CMD,
 };
 
 // Tells the module framework the library's name, and its build date as version.
@@ -105,10 +155,16 @@ int32_t RegisterModule() {
 }  // namespace
 }  // namespace sys_context
 
+int32_t install_gepon_optmodule_inforead_element() {
+  using namespace sys_context;
+  return vk_install_element(kDiagnosticNode, &show_optmodule_info_cmd, 3, 0);
+}
+
 int32_t ddCmdInit(int32_t, int32_t, int32_t) {
   using namespace sys_context;
   for (CommandRecord* const record : kRecords) {
     install_element(kDiagnosticNode, record);
   }
+  install_gepon_optmodule_inforead_element();
   return RegisterModule();
 }

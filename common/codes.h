@@ -16,7 +16,7 @@ constexpr int32_t kReadError = -12;
 constexpr int32_t kSyntaxError = -14;
 constexpr int32_t kEntryTooLong = -22;
 
-// What loaders and queries answer.
+// What loaders, queries and commands answer.
 constexpr int32_t kNoWorkBuffer = -1;
 constexpr int32_t kNotRegistered = -1;
 constexpr int32_t kVersionNotSupported = -1;
@@ -26,6 +26,9 @@ constexpr int32_t kAboveFrameLimit = -1;
 constexpr int32_t kNoSuchEntry = -1;
 constexpr int32_t kMainBoardWithoutMaps = -1;
 constexpr int32_t kPotsServiceFailed = -1;
+constexpr int32_t kNotClosed = -1;
+constexpr int32_t kNoFtpBuffer = -1;
+constexpr int32_t kUploadNotTried = -1;
 constexpr int32_t kEmptyPlace = -2;
 constexpr int32_t kNoPortOfThatNumber = -2;
 constexpr int32_t kNullArgument = -2;
@@ -93,5 +96,28 @@ constexpr int32_t kOwnFrameNameTooLong = -32;
 constexpr int32_t kTextTooLong = -33;
 constexpr int32_t kRatioTooLarge = -34;
 constexpr int32_t kNoHigigPort = -36;
+
+// What the functions of the optical modules answer, numbers of their own: the loaders,
+constexpr int32_t kNoOptModuleCount = -1;
+constexpr int32_t kNoPortKind = -1;
+constexpr int32_t kNoPortType = -2;
+constexpr int32_t kNoPhyType = -3;
+constexpr int32_t kNoPathNum = -4;
+constexpr int32_t kNoPath = -6;
+constexpr int32_t kBadPath = -7;
+constexpr int32_t kTooManyOptModules = -15;
+constexpr int32_t kNegativeStart = -18;
+constexpr int32_t kNoOptModuleMemory = -22;
+constexpr int32_t kBadOptModuleArgument = -24;
+constexpr int32_t kPathTooLong = -33;
+
+// and the queries and the show command.
+constexpr int32_t kNoSuchOptModule = -1;
+constexpr int32_t kPortTypeUnknown = -5;
+constexpr int32_t kNoSuchOptModuleIndex = -10;
+constexpr int32_t kNoOptModuleThere = -24;
+constexpr int32_t kTooFewPathEntries = -35;
+constexpr int32_t kCardTypeUnknown = -101;
+constexpr int32_t kNoOpticalCard = -102;
 
 }  // namespace sys_context

@@ -71,8 +71,8 @@ template <typename... Values>
 using PartialMessage = BasicMessage<true, Values...>;
 
 // Prints a message of a table. The C library's printf is called by its name, so
-// that a host may stand in front of it. (The few texts that end in a line feed are
-// put with puts, which a host may catch as well.)
+// that a host may stand in front of it. (A few texts are put with puts,
+// which a host may catch as well.)
 template <bool partial, typename... Values>
 void Report(Gate gate, const BasicMessage<partial, Values...>& message,
             std::type_identity_t<Values>... values) {

@@ -5,10 +5,12 @@
 #include "common/codes.h"
 #include "common/memory.h"
 #include "common/messages.h"
+#include "context/stored_file.h"
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 constinit int32_t ddDebugPrint = 0;
 
@@ -18,12 +20,11 @@ constinit const char* strDeviceDefFilePath = "/mem/dd.ini";
 namespace sys_context {
 namespace {
 
-constexpr char kDeviceDefinitionFile[] = "/mnt/work/device_definition.ini";
 constexpr size_t kWorkBufferSize = 3072000;
 
 struct Loader {
   int32_t (*load)(const char* file);
-  // kept as is: shown as strDeviceDefFilePath is the path that was read.
+  // kept as is: the text says strDeviceDefFilePath, but shows the path that was read.
   Message<int32_t, const char*> failure;
 };
 
@@ -93,8 +94,13 @@ class WorkBuffer {
 int32_t ddInit() {
   using namespace sys_context;
   ClearTables();
+  init_optmodule_info();
   if (const int32_t code = ddReadContextFile(); code != kOk) {
     std::puts("ddInit initialize......failed!\r");
+    return code;
+  }
+  if (const int32_t code = optmodule_defines_fileparse(); code != kOk) {
+    std::puts("ddInit optfile initialize......failed!\r");
     return code;
   }
   return kOk;

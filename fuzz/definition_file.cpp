@@ -30,6 +30,10 @@ namespace {
 using test::FakePlatform;
 using test::Faults;
 
+// The optical modules' file, which is no file of the fuzzer's: an empty list.
+constexpr std::string_view kNoOpticalModules =
+    "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum=0\n";
+
 // Some are one in so many.
 constexpr size_t kShares = 8;
 
@@ -82,8 +86,10 @@ Outcome Run(std::string_view bytes, int32_t debug, Queries queries) {
 
   Outcome outcome;
   const test::DefinitionFile file(bytes);
+  const test::DefinitionFile optical_file(kNoOpticalModules);
   Faults faults;
   faults.paths["/mnt/work/device_definition.ini"] = file.path();
+  faults.paths["/mnt/work/optmodule_definition.ini"] = optical_file.path();
   outcome.code = ddInit();
   FitCards(seed);
   ShowEverything();

@@ -32,6 +32,7 @@ constexpr CommandRecord* kCommands[] = {
     &ddShowFrameInfo_CMD,           &ddShowOnuPonInfo_CMD,         &ddShowOnuLanInfo_CMD,
     &ddShowOnuPotsInfo_CMD,         &ddShowOnuSpecialPortInfo_CMD, &ddShowAllSupportedOnuType_CMD,
     &ddShowOneSupportedOnuInfo_CMD, &ddShowAllSupportedOnu_CMD,    &ddShowAllDevice_CMD,
+    &show_optmodule_info_cmd,
 };
 
 void RunCommands() {

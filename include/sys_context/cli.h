@@ -12,6 +12,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 #include "sys_context/platform.h"
 
 SYS_CONTEXT_BEGIN
@@ -42,10 +43,13 @@ extern SYS_CONTEXT_API struct CommandRecord ddShowAllSupportedOnuType_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowOneSupportedOnuInfo_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowAllSupportedOnu_CMD;
 extern SYS_CONTEXT_API struct CommandRecord ddShowAllDevice_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddShowContextFile_CMD;
+extern SYS_CONTEXT_API struct CommandRecord ddUploadContextFile_CMD;
+extern SYS_CONTEXT_API struct CommandRecord show_optmodule_info_cmd;
 
-/* Their handlers, which return 0. ddShowOneSupportedOnuInfo_Func takes the index from its
- * first argument, a decimal text; without one, or without digits, it is 0. The others
- * ignore their arguments. */
+/* The handlers of the show commands, which return 0. ddShowOneSupportedOnuInfo_Func takes
+ * the index from its first argument, a decimal text; without one, or without digits, it
+ * is 0. The others ignore their arguments. */
 SYS_CONTEXT_API int32_t ddShowVersionInfo_Func(struct CommandRecord* self, void* vty, int32_t argc,
                                                char** argv);
 SYS_CONTEXT_API int32_t ddShowAllModuleInfo_Func(struct CommandRecord* self, void* vty,
@@ -76,6 +80,28 @@ SYS_CONTEXT_API int32_t ddShowAllSupportedOnu_Func(struct CommandRecord* self, v
                                                    int32_t argc, char** argv);
 SYS_CONTEXT_API int32_t ddShowAllDevice_Func(struct CommandRecord* self, void* vty, int32_t argc,
                                              char** argv);
+SYS_CONTEXT_API int32_t ddShowContextFile_Func(struct CommandRecord* self, void* vty, int32_t argc,
+                                               char** argv);
+
+/*
+ * The handler of the upload, whose arguments are the server's address, user name,
+ * password and file name. Returns 0 once the upload was tried, however it ended, which is
+ * told on the terminal; -1 when the address, which is looked at first, is one of the card's
+ * own (is_manage_ipAddr, diags_is_outbandip), silently, or when there are not four
+ * arguments.
+ */
+SYS_CONTEXT_API int32_t ddUploadContextFile_Func(struct CommandRecord* self, void* vty,
+                                                 int32_t argc, char** argv);
+
+/* The handler of "show optmodule", which returns 0. The index is its first argument, a
+ * decimal text, of which the low 16 bits count (65537 shows module 1); without one, or
+ * without digits, it is 0. */
+SYS_CONTEXT_API int32_t show_optmodule_info_func(struct CommandRecord* self, void* vty,
+                                                 int32_t argc, char** argv);
+
+/* Installs show_optmodule_info_cmd, which ddCmdInit does, too. Returns what
+ * vk_install_element returns. */
+SYS_CONTEXT_API int32_t install_gepon_optmodule_inforead_element(void);
 
 /* ---- Printers ------------------------------------------------------------ */
 
@@ -141,6 +167,35 @@ SYS_CONTEXT_API int32_t ddPrintAllSupportedOnuTypeInfomation(void* vty);
 /* Every table, with the pauses of their listings. -2 without a terminal. A table that
  * cannot be shown says so in its place. */
 SYS_CONTEXT_API int32_t ddPrintAllContextInformation(void* vty);
+
+/* The optical module of an index, from 1. -10: no such index; -24: no terminal, or the
+ * place is empty. */
+SYS_CONTEXT_API int32_t show_optmodule_fileinfo_byindex(uint16_t index, void* vty);
+
+/* ---- The stored definition file ------------------------------------------ */
+
+/*
+ * These fetch the device definition file as it is kept in flash (flash_sizeof,
+ * flash_read), at most 3,072,000 bytes, and expand it if it is compressed (context.h). For
+ * the time of the call they take 6,144,000 bytes of memory. What fails is told on the
+ * terminal, and mostly not in the return code.
+ */
+
+/* Writes the text up to its first zero byte to the terminal, byte by byte, between two
+ * line ends. Returns 0, always. */
+SYS_CONTEXT_API int32_t ddPrintContextFile(void* vty);
+
+/* Hands the text and the four strings as they are to upload_buf_by_ftp (platform.h). The
+ * password is kept nowhere. Returns 0, or -1 without memory for the first buffer. */
+SYS_CONTEXT_API int32_t ddUploadContextFile(const char* address, const char* user,
+                                            const char* password, const char* file, void* vty);
+
+/* ---- Dump ---------------------------------------------------------------- */
+
+/* Prints `length` bytes on the console, eight a line, each line with its address (the low
+ * 32 bits), the bytes in hexadecimal and as characters. Returns what printf returned last;
+ * without a buffer that is the length of a message. For debugging; no command uses it. */
+SYS_CONTEXT_API int32_t ddPrintBuf(const uint8_t* buffer, int32_t length);
 
 SYS_CONTEXT_END
 

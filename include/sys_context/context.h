@@ -1,9 +1,10 @@
 /*
- * Start-up, software versions, module types and system functions.
+ * Start-up, the definition file's copy in flash, software versions, module types and
+ * system functions.
  *
  * The host calls ddInit once, before anybody asks a query; it reads
  * "/mnt/work/device_definition.ini" into the tables below and into those of olt.h,
- * frame.h and onu.h.
+ * frame.h and onu.h, and "/mnt/work/optmodule_definition.ini" into that of optmodule.h.
  * Tables stay for the life of the process and belong to the library; hosts may
  * read and fill them.
  */
@@ -21,20 +22,21 @@ SYS_CONTEXT_BEGIN
  * outside. */
 extern SYS_CONTEXT_API int32_t ddDebugPrint;
 
-/* The memory file for the copy of the definition file that is kept in flash,
- * "/mem/dd.ini" at start. The host may point it at another string, which it
- * keeps. Loading does not read it. */
+/* The memory file that ddReadContextFileToBuf writes, "/mem/dd.ini" at start. The host
+ * may point it at another string, which it keeps. Loading does not read it. */
 extern SYS_CONTEXT_API const char* strDeviceDefFilePath;
 
 /*
- * Empties every table and loads the device definition file. Meant to be called
- * once: a second call forgets the first one's tables without releasing them.
+ * Empties every table and loads the device definition file, then the list of optical
+ * modules. Meant to be called once: a second call forgets the first one's tables without
+ * releasing them.
  * Returns 0, -1 without memory for the work buffer, or the code of the first
- * loader that failed; the tables before it are then loaded, the others empty.
+ * loader that failed (of the optical modules: optmodule.h); the tables before it are then
+ * loaded, the others empty.
  */
 SYS_CONTEXT_API int32_t ddInit(void);
 
-/* The second half of ddInit: proves that 3,072,000 bytes of memory can be had,
+/* The middle of ddInit: proves that 3,072,000 bytes of memory can be had,
  * then calls ddParseContextFile. Returns 0, -1 without that memory, or the
  * failing loader's code. */
 SYS_CONTEXT_API int32_t ddReadContextFile(void);
@@ -58,6 +60,32 @@ SYS_CONTEXT_API void vkpJumpTableEntryBegin_0(void);
 SYS_CONTEXT_API void vkpJumpTableEntryEnd_0(void);
 SYS_CONTEXT_API void vkpJumpTableEntryBegin_1(void);
 SYS_CONTEXT_API void vkpJumpTableEntryEnd_1(void);
+
+/* ---- The copy in flash ------------------------------------------------- */
+
+/*
+ * The text of a stored definition file: what follows its first three bytes, expanded by
+ * zUnCompress, if those are "zip"; else all of it as it is.
+ *   destinationLength  in: the bytes of `destination`; receives the length of the text
+ * The bytes of `destination` are told to zUnCompress, but not looked at for a plain image:
+ * it must have room for `length` bytes.
+ * Returns 0, -2 for a null pointer, or the code of zUnCompress.
+ */
+SYS_CONTEXT_API int32_t read_compress_context_file(const uint8_t* image, uint32_t length,
+                                                   uint8_t* destination,
+                                                   uint32_t* destinationLength);
+
+/*
+ * Writes the text of the definition file that is kept in flash, at most 1,048,576 bytes as
+ * it is stored and 3,072,000 as text, to the memory file. For the time of the call it
+ * takes 4,120,576 bytes of memory.
+ * Every failure is told on the console. Returns the code of flash_read or of
+ * read_compress_context_file, -1 when the memory file cannot be closed, and otherwise 0:
+ * also without memory, for a file too large, and when the memory file cannot be opened or
+ * is not written in full. The memory file is created without permission bits or, if it is
+ * there, emptied; it stays as far as it was written.
+ */
+SYS_CONTEXT_API int32_t ddReadContextFileToBuf(void);
 
 /* ---- Software versions ------------------------------------------------- */
 

@@ -1,9 +1,7 @@
 /*
  * What the host provides: the functions and the variable that libsys_context
  * uses on the control card. A program that links the library defines all of
- * them, with C linkage; the library of today does not call the second way to install
- * a command, the platform log, the flash store, the decompression, the FTP upload, the
- * address checks and get_valid_onu_type. The library also calls the C library by name (fopen,
+ * them, with C linkage. The library also calls the C library by name (fopen, open,
  * malloc, printf, ...), and a host may put its own in front of those.
  *
  * Strings and buffers given to the host are valid during the call only, but
@@ -32,7 +30,7 @@ typedef struct CommandRecord {
 /* Installs a record into a node of the command tree. The result is ignored. */
 SYS_CONTEXT_API int32_t install_element(int32_t node, struct CommandRecord* record);
 
-/* The same for another kind of shell node; the library gives 10, record, 3, 0. */
+/* Another way to install a record; the library gives 10, record, 3, 0. */
 SYS_CONTEXT_API int32_t vk_install_element(int32_t node, struct CommandRecord* record, int32_t,
                                            int32_t);
 
@@ -63,11 +61,14 @@ SYS_CONTEXT_API int32_t bep_taskDelayEx(int32_t ticks);
 
 /* ---- Flash store, decompression, FTP, address checks --------------------- */
 
-/* Size in bytes of a file of the flash store. */
+/* Size in bytes of a file of the flash store. A negative answer, for a file that is not
+ * there, is refused as a file too large would be. */
 SYS_CONTEXT_API int32_t flash_sizeof(const char* name);
 
-/* Reads a file of the flash store. `length`: the buffer's bytes in, the bytes
- * read out. Returns 0 on success. */
+/* Reads a file of the flash store.
+ *   length  in: what flash_sizeof answered, for which `buffer` has room;
+ *           receives the number of bytes that were read
+ * Returns 0 on success. */
 SYS_CONTEXT_API int32_t flash_read(const char* name, char* buffer, int32_t* length);
 
 /* Expands compressed data. `dstLength`: capacity in, length out. Returns 0 on
@@ -81,17 +82,18 @@ SYS_CONTEXT_API int32_t upload_buf_by_ftp(const char* address, const char* user,
                                           const char* buffer, uint32_t length);
 
 /* Non-zero: the address (network byte order) is the device's own management
- * address. */
+ * address. 0xffffffff for a text that is no address. */
 SYS_CONTEXT_API int32_t is_manage_ipAddr(uint32_t address);
 
-/* Non-zero: the dotted address is the out-of-band diagnostic address. */
+/* Non-zero: the address, as it was typed, is the out-of-band diagnostic address. */
 SYS_CONTEXT_API int32_t diags_is_outbandip(const char* address);
 
 /* ---- Equipment facts ----------------------------------------------------- */
 
 SYS_CONTEXT_API int32_t get_system_device_type(void);
 
-/* Card type configured for a slot; not positive when there is none. */
+/* Card type configured for a slot; not positive when there is none. (The power limits of
+ * optical modules take 0 for a card type: optmodule.h.) */
 SYS_CONTEXT_API int32_t get_config_card_type(uint32_t slot);
 
 /* The slot of the main card on which the library runs. */

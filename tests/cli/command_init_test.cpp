@@ -11,9 +11,37 @@ namespace {
 using std::string;
 using test::FakePlatform;
 
+// How many commands are installed when the module is registered.
+size_t installed_before = 0;
+
+}  // namespace
+
+extern "C" {
+int32_t __real_modInitRegister(const char* name, int32_t a, int32_t b, int32_t c, int32_t d,
+                               int32_t e, int32_t f);
+int32_t __wrap_modInitRegister(const char* name, int32_t a, int32_t b, int32_t c, int32_t d,
+                               int32_t e, int32_t f);
+
+int32_t __wrap_modInitRegister(const char* name, int32_t a, int32_t b, int32_t c, int32_t d,
+                               int32_t e, int32_t f) {
+  installed_before = FakePlatform::Get().installed.size();
+  return __real_modInitRegister(name, a, b, c, d, e, f);
+}
+}  // extern "C"
+
+namespace {
+
+using Numbers = std::vector<int32_t>;
+
 class CommandInit : public test::LibraryTest {
  protected:
-  // All records into node 10, in the order of the command table.
+  void SetUp() override {
+    LibraryTest::SetUp();
+    installed_before = 0;
+  }
+
+  // All records into node 10, in the order of the command table. Only the last has further
+  // numbers.
   static void ExpectInstalled() {
     CommandRecord* const expected[] = {
         &ddShowVersionInfo_CMD,         &ddShowAllModuleInfo_CMD,
@@ -23,14 +51,17 @@ class CommandInit : public test::LibraryTest {
         &ddShowOnuLanInfo_CMD,          &ddShowOnuPotsInfo_CMD,
         &ddShowOnuSpecialPortInfo_CMD,  &ddShowAllSupportedOnuType_CMD,
         &ddShowOneSupportedOnuInfo_CMD, &ddShowAllSupportedOnu_CMD,
-        &ddShowAllDevice_CMD,
+        &ddShowAllDevice_CMD,           &ddShowContextFile_CMD,
+        &ddUploadContextFile_CMD,       &show_optmodule_info_cmd,
     };
     const std::vector<FakePlatform::Installed>& installed = FakePlatform::Get().installed;
     ASSERT_EQ(installed.size(), std::size(expected));
     for (size_t i = 0; i < installed.size(); ++i) {
       EXPECT_EQ(installed[i].node, 10) << i;
       EXPECT_EQ(installed[i].record, expected[i]) << i;
+      EXPECT_EQ(installed[i].further, i < 17 ? Numbers{} : (Numbers{3, 0})) << i;
     }
+    EXPECT_EQ(installed_before, 18u);
   }
 
   // The build date and time, such as "Sep  2 2021 03:51:06".
@@ -75,11 +106,31 @@ TEST_F(CommandInit, IgnoresItsArguments) {
 }
 
 TEST_F(CommandInit, IgnoresWhatTheShellAnswers) {
-  FakePlatform::Get().install_result = -5;
-  EXPECT_EQ(ddCmdInit(0, 0, 0), 0);
-  ExpectInstalled();
-  EXPECT_EQ(FakePlatform::Get().versions.size(), 1u);
-  EXPECT_EQ(console_.Text(), "");
+  for (const int32_t answer : {-1, -5, 1}) {
+    FakePlatform::Reset();
+    FakePlatform::Get().install_result = answer;
+    FakePlatform::Get().vk_install_result = answer;
+    EXPECT_EQ(ddCmdInit(0, 0, 0), 0);
+    ExpectInstalled();
+    EXPECT_EQ(FakePlatform::Get().versions.size(), 1u);
+    EXPECT_EQ(console_.Text(), "");
+  }
+}
+
+// Alone, the command of the optical modules is told what the shell answers.
+TEST_F(CommandInit, InstallsTheOpticalModulesCommandAlone) {
+  for (const int32_t answer : {0, 1, -1, -5, INT32_MIN}) {
+    FakePlatform::Reset();
+    FakePlatform::Get().install_result = 9;
+    FakePlatform::Get().vk_install_result = answer;
+    EXPECT_EQ(install_gepon_optmodule_inforead_element(), answer);
+    const std::vector<FakePlatform::Installed>& installed = FakePlatform::Get().installed;
+    ASSERT_EQ(installed.size(), 1u);
+    EXPECT_EQ(installed[0].node, 10);
+    EXPECT_EQ(installed[0].record, &show_optmodule_info_cmd);
+    EXPECT_EQ(installed[0].further, (Numbers{3, 0}));
+    EXPECT_TRUE(FakePlatform::Get().registered_modules.empty());
+  }
 }
 
 TEST_F(CommandInit, ModuleNotRegistered) {
@@ -154,9 +205,11 @@ TEST_F(CommandInit, ReadsNoTableAndNoFile) {
   gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum = 0xffffffff;
   gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum = 0xffffffff;
   gstSupportedOnuType.ulSupportedOnuTypeNum = 0xffffffff;
+  g_optmdule_infolist.listnum = 0xffff;
   EXPECT_EQ(ddCmdInit(0, 0, 0), 0);
   EXPECT_EQ(FakePlatform::Get().terminal, "");
   EXPECT_TRUE(FakePlatform::Get().asked.empty());
+  EXPECT_TRUE(FakePlatform::Get().log.empty());
   EXPECT_EQ(console_.Text(), "");
 }
 

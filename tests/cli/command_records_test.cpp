@@ -2,7 +2,9 @@
 #include "sys_context/cli.h"
 
 #include <algorithm>
+#include <iterator>
 #include <ostream>
+#include <sstream>
 #include <string>
 
 #include "cli/frame_printer_test.h"
@@ -20,9 +22,10 @@ struct RecordRow {
   const char* command;
   Handler handler;
   const char* help;
-  void (*corrupt)();       // spoils the table that the command shows
-  string empty_listing;    // what it shows of the table before any load
-  string corrupt_listing;  // and of the spoilt one
+  // Of the show commands:
+  void (*corrupt)() = nullptr;  // spoils the table that the command shows
+  string empty_listing = "";    // what it shows of the table before any load
+  string corrupt_listing = "";  // and of the spoilt one
   bool needs_terminal = false;
   friend std::ostream& operator<<(std::ostream& out, const RecordRow& row) {
     return out << row.name;
@@ -31,7 +34,7 @@ struct RecordRow {
 
 class CommandRecords : public test::LibraryTest, public testing::WithParamInterface<RecordRow> {
  protected:
-  static const test::FakePlatform& Platform() { return test::FakePlatform::Get(); }
+  static test::FakePlatform& Platform() { return test::FakePlatform::Get(); }
 
   // Calls the handler as a shell would, and expects its terminal to be used.
   static void ExpectShown(const string& listing) {
@@ -39,7 +42,8 @@ class CommandRecords : public test::LibraryTest, public testing::WithParamInterf
     char* words[] = {word, nullptr};
     int terminal = 0;
     for (const int32_t count : {0, 1, -1}) {
-      test::FakePlatform::Reset();
+      Platform().terminal.clear();
+      Platform().terminals_used.clear();
       EXPECT_EQ(GetParam().record->func(GetParam().record, &terminal, count, words), 0);
       EXPECT_EQ(Platform().terminal, listing);
       ASSERT_FALSE(Platform().terminals_used.empty());
@@ -51,6 +55,7 @@ class CommandRecords : public test::LibraryTest, public testing::WithParamInterf
 
   test::Console console_;
 };
+class ShowCommands : public CommandRecords {};
 
 TEST_P(CommandRecords, HaveFourFields) {
   const CommandRecord& record = *GetParam().record;
@@ -67,7 +72,7 @@ TEST_P(CommandRecords, LeaveTheShellsFieldsZero) {
 }
 
 // They are no constants, and their handlers look at none of the shell's fields.
-TEST_P(CommandRecords, CanBeWrittenByTheShell) {
+TEST_P(ShowCommands, CanBeWrittenByTheShell) {
   CommandRecord& record = *GetParam().record;
   const CommandRecord before = record;
   for (void*& word : record.host) {
@@ -80,25 +85,25 @@ TEST_P(CommandRecords, CanBeWrittenByTheShell) {
 }
 
 TEST_P(CommandRecords, HaveOneHelpLinePerWord) {
-  const string command = GetParam().record->string;
+  std::istringstream command(GetParam().record->string);
+  const std::istream_iterator<string> words(command);
   const string help = GetParam().record->doc;
-  EXPECT_EQ(std::count(help.begin(), help.end(), '\n'),
-            std::count(command.begin(), command.end(), ' ') + 1);
+  EXPECT_EQ(std::count(help.begin(), help.end(), '\n'), std::distance(words, {}));
   EXPECT_EQ(help.back(), '\n');
 }
 
-TEST_P(CommandRecords, ShowATableThatIsNotLoaded) {
+TEST_P(ShowCommands, ShowATableThatIsNotLoaded) {
   ExpectShown(GetParam().empty_listing);
   EXPECT_EQ(console_.Text(), "");
 }
 
-TEST_P(CommandRecords, AreDoneWithACorruptTableToo) {
+TEST_P(ShowCommands, AreDoneWithACorruptTableToo) {
   GetParam().corrupt();
   ExpectShown(GetParam().corrupt_listing);
   EXPECT_EQ(console_.Text(), "");
 }
 
-TEST_P(CommandRecords, NeedNoArguments) {
+TEST_P(ShowCommands, NeedNoArguments) {
   int terminal = 0;
   EXPECT_EQ(GetParam().handler(nullptr, &terminal, 0, nullptr), 0);
   EXPECT_EQ(Platform().terminal, GetParam().empty_listing);
@@ -106,8 +111,9 @@ TEST_P(CommandRecords, NeedNoArguments) {
   EXPECT_EQ(Platform().terminals_used.front(), &terminal);
 }
 
-// All hand on what they are given, but the report, which shows nothing then.
-TEST_P(CommandRecords, AreDoneWithoutATerminalToo) {
+// All hand on what they are given, but the report and the optical modules' printer, which
+// show nothing then.
+TEST_P(ShowCommands, AreDoneWithoutATerminalToo) {
   EXPECT_EQ(GetParam().handler(nullptr, nullptr, 0, nullptr), 0);
   if (GetParam().needs_terminal) {
     EXPECT_EQ(Platform().terminal, "");
@@ -282,8 +288,43 @@ const RecordRow kRecords[] = {
          "\r\nddPrintAllSupportedOltPortInfomation err! pOltPortTypeArray = 0x0",
          "\r\nddPrintAllSupportedOltPortInfomation err! ulSupportedOltPortTypeNum = 31"),
      .needs_terminal = true},
+    {.name = "ddShowContextFile_CMD",
+     .record = &ddShowContextFile_CMD,
+     .command = "show context file",
+     .handler = ddShowContextFile_Func,
+     .help = "show info.\ncontext info.\ncontext file info.\n",
+     .corrupt = [] { test::FakePlatform::Get().flash_size = 3072001; },
+     .empty_listing = "\r\n\r\n",
+     .corrupt_listing = "\r\nddPrintContextFile err! memfile_length = 3072001, "
+                        "FTP_CONTEXT_BUF_SIZE = 3072000, FLASH_CONTEXT_FILE_KXCB_NAME = "
+                        "/mnt/work/device_definition.ini"},
+    {.name = "show_optmodule_info_cmd",
+     .record = &show_optmodule_info_cmd,
+     .command = "show optmodule fileinfo index <indexno>",
+     .handler = show_optmodule_info_func,
+     .help = "show .\noptmodule.\nfile info.\nindex info.\nplease input index no 1~26.\n",
+     .corrupt = [] { g_optmdule_infolist.listnum = 51; },
+     .empty_listing = "index 0 is out of range 1 ~ 0.\r\n",
+     .corrupt_listing = "index 0 is out of range 1 ~ 51.\r\n",
+     .needs_terminal = true},
 };
 INSTANTIATE_TEST_SUITE_P(Cli, CommandRecords, testing::ValuesIn(kRecords),
+                         testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Cli, ShowCommands, testing::ValuesIn(kRecords),
+                         testing::PrintToStringParamName());
+
+// What its handler does, see upload_command_test.cpp.
+const RecordRow kUpload = {
+    .name = "ddUploadContextFile_CMD",
+    .record = &ddUploadContextFile_CMD,
+    .command = "upload ftp context <A.B.C.D> <username> <password> <filename> ",
+    .handler = ddUploadContextFile_Func,
+    .help =
+        "Upload file for context file.\nUpload file to ftp server use ftp protocal.\n"
+        "Upload contex file.\nPlease input ftp server's IP address, such as A.B.C.D\n"
+        "Please input ftp user name.\nPlease input password for that ftp user.\n"
+        "Please input the file name.\n"};
+INSTANTIATE_TEST_SUITE_P(CliUpload, CommandRecords, testing::Values(kUpload),
                          testing::PrintToStringParamName());
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A definition file in the place where start-up looks for it.
+// The definition files in the places where start-up looks for them.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +12,9 @@
 namespace test {
 
 constexpr char kDeviceFile[] = "/mnt/work/device_definition.ini";
+constexpr char kOpticalFile[] = "/mnt/work/optmodule_definition.ini";
 
-// What start-up loads, in its order. Before a step, so many are done.
+// What start-up loads of the device file, in its order. Before a step, so many are done.
 enum Step : size_t {
   kVersions,
   kModules,
@@ -113,15 +114,28 @@ inline std::string FileBefore(size_t step) {
   return file;
 }
 
-// Watches the library while the given bytes are its definition file.
+// Optical modules: one with two paths, one with one.
+constexpr std::string_view kOpticalModules =
+    "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum=2\n"
+    "SupportedOptModuleInfo1=O1\nSupportedOptModuleInfo2=O2\n"
+    "[O1]\nPortKind=1\nPortType=2\nPhyType=7\nPathNum=2\n"
+    "Path1=-10,-30,-5,-28\nPath2=50,10,-70,-270\n"
+    "[O2]\nPortKind=2\nPortType=31\nPhyType=0\nPathNum=1\nPath1=1,2,3,4\n";
+
+// Watches the library while the given bytes are its definition files.
 struct DeviceFile {
-  explicit DeviceFile(std::string_view bytes = FileBefore(kSteps)) : file(bytes) {
+  explicit DeviceFile(std::string_view bytes = FileBefore(kSteps),
+                      std::string_view optical_bytes = kOpticalModules)
+      : file(bytes), optical(optical_bytes) {
     faults.paths[kDeviceFile] = file.path();
+    faults.paths[kOpticalFile] = optical.path();
   }
-  // The library finds no definition file at all.
+  // The library finds no such file at all.
   void Remove() { faults.paths[kDeviceFile] = "/nonexistent/device_definition.ini"; }
+  void RemoveOptical() { faults.paths[kOpticalFile] = "/nonexistent/optmodule_definition.ini"; }
 
   DefinitionFile file;
+  DefinitionFile optical;
   Faults faults;
 };
 

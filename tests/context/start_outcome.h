@@ -11,6 +11,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace test {
 
@@ -93,6 +94,24 @@ struct OnuCounts {
   }
 };
 
+// What the list of optical modules holds.
+struct OpticalCounts {
+  uint32_t modules = 0;
+  uint32_t paths = 0;  // of all modules
+
+  static OpticalCounts OfTheList() {
+    OpticalCounts counts = {g_optmdule_infolist.listnum, 0};
+    for (uint32_t i = 0; i < counts.modules; ++i) {
+      counts.paths += g_optmdule_infolist.objlist[i]->pathnum;
+    }
+    return counts;
+  }
+  bool operator==(const OpticalCounts&) const = default;
+  friend std::ostream& operator<<(std::ostream& out, const OpticalCounts& counts) {
+    return out << counts.modules << " optical modules with " << counts.paths << " paths";
+  }
+};
+
 // How many records each table holds.
 struct Counts {
   uint32_t versions = 0;
@@ -103,6 +122,7 @@ struct Counts {
   uint32_t boards = 0;
   FrameCounts frame = {};
   OnuCounts onu = {};
+  OpticalCounts optical = {};
 
   static Counts OfTheTables() {
     return {gstVersionInformation.ulSupportedSoftVerNum,
@@ -112,14 +132,15 @@ struct Counts {
             gstSupportedMainBoardType.ulSupportedBoardTypeNum,
             gstSupportedBoardType.ulSupportedBoardTypeNum,
             FrameCounts::OfTheFrame(),
-            OnuCounts::OfTheCatalog()};
+            OnuCounts::OfTheCatalog(),
+            OpticalCounts::OfTheList()};
   }
   bool operator==(const Counts&) const = default;
   friend std::ostream& operator<<(std::ostream& out, const Counts& counts) {
     return out << counts.versions << " versions, " << counts.modules << " modules, "
                << counts.functions << " functions, " << counts.port_types << " port types, "
                << counts.main_boards << " main boards, " << counts.boards << " boards, "
-               << counts.frame << ", " << counts.onu;
+               << counts.frame << ", " << counts.onu << ", " << counts.optical;
   }
 };
 
@@ -135,7 +156,8 @@ constexpr Counts kEverything = {.versions = 2,
                                         .pots_types = 1,
                                         .special_types = 1,
                                         .onus = 2,
-                                        .most_lan_ports = 1}};
+                                        .most_lan_ports = 1},
+                                .optical = {.modules = 2, .paths = 3}};
 
 // What a start that meets a fault comes to.
 struct Outcome {
@@ -188,10 +210,27 @@ constexpr Outcome kWithoutTheSecondOnu = EverythingBut([](Counts& all) { all.onu
 constexpr Outcome kWithoutOnus =
     EverythingBut([](Counts& all) { all.onu.onus = all.onu.most_lan_ports = 0; });
 
+// Optical modules that are left out.
+constexpr Outcome kWithoutTheFirstOpticalModule = EverythingBut([](Counts& all) {
+  all.optical = {1, 1};
+});
+constexpr Outcome kWithoutTheSecondOpticalModule = EverythingBut([](Counts& all) {
+  all.optical = {1, 2};
+});
+constexpr Outcome kWithoutOpticalModules = EverythingBut([](Counts& all) { all.optical = {}; });
+
+// A start that comes to `outcome`, but then stops with `code` at the list of optical modules.
+constexpr Outcome StoppedAtOpticalModules(Outcome outcome, int32_t code) {
+  outcome.code = code;
+  outcome.loaded.optical = {};
+  return outcome;
+}
+
 // What is loaded when a start stops in the ONU catalog: what it has by then.
 constexpr Counts InOnus(const OnuCounts& onu) {
   Counts loaded = kEverything;
   loaded.onu = onu;
+  loaded.optical = {};
   return loaded;
 }
 
@@ -202,6 +241,8 @@ inline std::string DriverSays(const std::string& loader, const std::string& code
          "\r\nddReadContextFile->ddParseContextFile err! iResult = " +
          code + "ddInit initialize......failed!\r\n";
 }
+
+constexpr char kOpticalFailed[] = "ddInit optfile initialize......failed!\r\n";
 
 // What the frame's loader says of a board that a slot takes, but that was left out.
 // What stands in braces is said under the debug switch only.

@@ -1,11 +1,12 @@
-// Start-up when the file fails: at every open and read of a whole start, once
-// and for ever.
+// Start-up when a file fails: at every open, seek and read of a whole start, once and
+// for ever.
 #include <string>
 
 #include "context/device_file.h"
 #include "context/start_outcome.h"
 #include "context/startup_lookups.h"
 #include "support/leaks.h"
+#include "support/optmodule_messages.h"
 #include "support/tables.h"
 #include "support/text.h"
 
@@ -14,8 +15,12 @@ namespace {
 using std::string;
 using test::Counts;
 using test::DeviceFile;
+using test::FakePlatform;
 using test::FaultPlan;
+using test::FileFault;
 using test::kEverything;
+using test::kReadFails;
+using test::kSeekFails;
 using test::Lookup;
 using test::Lookups;
 using test::Outcome;
@@ -38,6 +43,7 @@ class StartupFaults : public test::LibraryTest {
     ExpectStart(lookup.once, code, faults);
     EXPECT_EQ(console_.Text(),
               test::With(test::Said(lookup.console, debug), "%", std::to_string(code)));
+    EXPECT_EQ(FakePlatform::TakeLog(), test::optical::WithCode(lookup.log, std::to_string(code)));
   }
 
   test::Console console_;
@@ -71,28 +77,37 @@ Outcome After(size_t lookups) {
   return lookups < Lookups().size() ? Lookups()[lookups].for_ever : Outcome{0, kEverything};
 }
 
-// How many reads a start makes in its first `lookups` lookups.
-int ReadsOf(size_t lookups) {
+// How many calls of a kind a start makes in its first `lookups` lookups.
+int CallsOf(size_t lookups, FaultPlan test::Faults::*kind) {
   DeviceFile device;
   device.faults.opens.FailFrom(static_cast<int>(lookups + 1), FaultPlan::kForEver);
   ddInit();
   test::ExpectAndReleaseLost(device.faults, After(lookups).lost);
   test::ResetTables();
-  return device.faults.reads.count();
+  FakePlatform::TakeLog();
+  return (device.faults.*kind).count();
 }
 
-TEST_F(StartupFaults, OneReadFails) {
+// Calls on an open file. Each lookup reads; one that begins behind the file's start seeks
+// its place, too.
+class StartupCalls : public StartupFaults, public testing::WithParamInterface<FileFault> {};
+INSTANTIATE_TEST_SUITE_P(Startup, StartupCalls, testing::Values(kReadFails, kSeekFails),
+                         testing::PrintToStringParamName());
+
+TEST_P(StartupCalls, OneFails) {
   int failing = 0;
   for (size_t number = 1; number <= Lookups().size(); ++number) {
-    const int reads = ReadsOf(number);
+    const int calls = CallsOf(number, GetParam().plan);
     console_.Text();
-    ASSERT_GT(reads, failing);
-    while (failing < reads) {
+    if (GetParam().plan == &test::Faults::reads) {
+      ASSERT_GT(calls, failing);
+    }
+    while (failing < calls) {
       SCOPED_TRACE(++failing);
       for (const int32_t debug : {0, 1}) {
         ddDebugPrint = debug;
         DeviceFile device;
-        device.faults.reads.FailFrom(failing, 1);
+        (device.faults.*GetParam().plan).FailFrom(failing, 1);
         ExpectFailureOf(Lookups()[number - 1], -12, device.faults);
         EXPECT_EQ(device.faults.closes, device.faults.opens.count());
         if (HasFailure()) {
@@ -101,6 +116,7 @@ TEST_F(StartupFaults, OneReadFails) {
       }
     }
   }
+  EXPECT_GT(failing, 0);
 }
 
 TEST_F(StartupFaults, NoOpenSucceedsFromOneOn) {
@@ -119,7 +135,7 @@ TEST_F(StartupFaults, NoOpenSucceedsFromOneOn) {
 TEST_F(StartupFaults, NoReadSucceedsFromOneOn) {
   int failing = 0;
   for (size_t number = 1; number <= Lookups().size(); ++number) {
-    const int reads = ReadsOf(number);
+    const int reads = CallsOf(number, &test::Faults::reads);
     while (failing < reads) {
       SCOPED_TRACE(++failing);
       DeviceFile device;

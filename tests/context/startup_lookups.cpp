@@ -1,5 +1,7 @@
-// Every lookup of a start on the complete file.
+// Every lookup of a start on the complete files.
 #include "context/startup_lookups.h"
+
+#include "support/optmodule_messages.h"
 
 namespace test {
 namespace {
@@ -75,9 +77,10 @@ Lookup LeavesOut(const string& console, const Outcome& once, const Counts& stopp
   return {console, once, Failed(stopped)};
 }
 
-// The start goes on, and succeeds whatever fails behind.
+// The start goes on, and if all behind it fail comes to `for_ever` and stops at the optical
+// modules.
 Lookup LeavesOut(const string& console, const Outcome& once, const Outcome& for_ever) {
-  return {console, once, for_ever};
+  return {console, once, StoppedAtOpticalModules(for_ever, -1)};
 }
 
 // ---- Modules and functions -------------------------------------------------------
@@ -290,10 +293,49 @@ string NoOnuPorts(const string& number, const string& kind, const string& key, c
                  " err! iResult = %, section = U" + number + ", key = " + key);
 }
 
-}  // namespace
+// ---- Optical modules -----------------------------------------------------------------
 
-const std::vector<Lookup>& Lookups() {
-  static const std::vector<Lookup> lookups = {
+// The lookups of a module with these keys of paths; its kind is read twice. If one of them
+// fails, the start goes on without the module, and succeeds whatever fails behind.
+std::vector<Lookup> OpticalModule(const string& number, const Names& paths, const Outcome& once,
+                                  const Outcome& for_ever) {
+  const string section = "O" + number;
+  const auto leaves_out = [&](const Names& log) { return Lookup{"", once, for_ever, log}; };
+  const auto without_number = [&](const string& key, const string& code) {
+    return leaves_out({optical::NoNumber("%", section, key), optical::Left(code, section)});
+  };
+  std::vector<Lookup> lookups = {leaves_out({optical::NoEntry("%", number)}),
+                                 leaves_out({optical::NoSection("%", section)}),
+                                 without_number("PortKind", "-1"),
+                                 without_number("PortType", "-2"),
+                                 without_number("PhyType", "-3"),
+                                 without_number("PathNum", "-4")};
+  for (const string& path : paths) {
+    lookups.push_back(
+        leaves_out({optical::NoPath("%", section, path), optical::Left("-6", section)}));
+  }
+  return lookups;
+}
+
+std::vector<Lookup> OpticalFileLookups() {
+  std::vector<Lookup> lookups = {{kOpticalFailed,
+                                  StoppedAtOpticalModules({.loaded = kEverything}, -1),
+                                  StoppedAtOpticalModules({.loaded = kEverything}, -1),
+                                  {optical::NoCount("%"), optical::NotLoaded("-1")}}};
+  for (const std::vector<Lookup>& module :
+       {OpticalModule("1", {"Path1", "Path2"}, kWithoutTheFirstOpticalModule,
+                      kWithoutOpticalModules),
+        OpticalModule("2", {"Path1"}, kWithoutTheSecondOpticalModule,
+                      kWithoutTheSecondOpticalModule)}) {
+    lookups.insert(lookups.end(), module.begin(), module.end());
+  }
+  return lookups;
+}
+
+// ---- The device file -----------------------------------------------------------------
+
+std::vector<Lookup> DeviceFileLookups() {
+  return {
       // Versions
       Stops("\r\nddReadVersionInformation err! iResult = %, section = Version, key = Version" +
                 DriverSays("ddReadVersionInformation", "-31"),
@@ -519,6 +561,18 @@ const std::vector<Lookup>& Lookups() {
       LeavesOut(NoOnuPorts("2", "SpecialPort", "SpecialPortNum", "-31"), kWithoutTheSecondOnu,
                 kWithoutTheSecondOnu),
   };
+}
+
+}  // namespace
+
+const std::vector<Lookup>& Lookups() {
+  static const std::vector<Lookup> lookups = [] {
+    std::vector<Lookup> all = DeviceFileLookups();
+    for (const Lookup& lookup : OpticalFileLookups()) {
+      all.push_back(lookup);
+    }
+    return all;
+  }();
   return lookups;
 }
 

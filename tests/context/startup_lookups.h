@@ -1,10 +1,11 @@
-// Every lookup of a start on the complete file, and what its failure leads to.
+// Every lookup of a start on the complete files, and what its failure leads to.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "context/start_outcome.h"
+#include "support/text.h"
 
 namespace test {
 
@@ -15,6 +16,8 @@ struct Lookup {
 
   Outcome once;      // if it alone fails
   Outcome for_ever;  // if all behind it fail as well
+
+  Names log = {};  // what is logged if it alone fails, with the code as above
 };
 
 // In an outcome: the code with which the lookup failed.

@@ -4,6 +4,7 @@
 #include "context/device_file.h"
 #include "context/start_outcome.h"
 #include "support/leaks.h"
+#include "support/optmodule_messages.h"
 #include "support/tables.h"
 
 namespace {
@@ -19,9 +20,12 @@ using test::kWithoutAModule;
 using test::kWithoutAPortType;
 using test::kWithoutOnuPonTypes;
 using test::kWithoutOnus;
+using test::kWithoutOpticalModules;
 using test::kWithoutTheFirstOnu;
+using test::kWithoutTheFirstOpticalModule;
 using test::kWithoutTheMainBoard;
 using test::kWithoutTheSecondOnu;
+using test::kWithoutTheSecondOpticalModule;
 using test::kWithoutTypesOfTheFirstOnu;
 using test::NoCardOfBoard;
 using test::NoMainCard;
@@ -31,6 +35,12 @@ using test::NoOnuOfSpecialPortType;
 using test::NoOnusOfPonType;
 using test::OnuCounts;
 using test::Outcome;
+using test::StoppedAtOpticalModules;
+using test::optical::kNoMemoryForModule;
+using test::optical::kNoMemoryForPath;
+using test::optical::Left;
+using test::optical::NoMemoryForPaths;
+using test::optical::PathNotRead;
 
 constexpr char kNoBuffer[] =
     "\r\nddReadContextFile err! Not enough memory for pFileBuf buffer.\r\n";
@@ -78,6 +88,7 @@ TEST_F(StartupMemory, NoMemoryForTheWorkBufferLeavesEmptyTables) {
   gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum = 9;
   gstSupportedOnuType.ulSupportedOnuTypeNum = 9;
   gstSupportedOnuType.ulSupportedOnuMaxLanNum = 9;
+  g_optmdule_infolist.listnum = 9;
   DeviceFile device;
   device.faults.allocations.FailFrom(1, 1);
   EXPECT_EQ(ddInit(), -1);
@@ -162,15 +173,20 @@ string NoOnuPort(const string& number, const string& copy, const string& kind, c
 constexpr char kNoPonCopy[] =
     "{\r\ndd_CreateOneOnuPonObjBySecName, pstOnuPonInformationOut = 0x0, ulIndex = 0}";
 
+// What comes of a start without any memory from an ONU type on.
+constexpr Outcome kStopsWithoutOnus = StoppedAtOpticalModules(kWithoutOnus, -22);
+constexpr Outcome kStopsWithoutTheSecondOnu = StoppedAtOpticalModules(kWithoutTheSecondOnu, -22);
+
 // The frame when the loader finds no room for the boards of its slots.
 constexpr test::FrameCounts kFrameWithoutRows = {9, 64, 128, 6};
 
 // In the order in which they are made.
 struct AllocationRow {
   const char* name;
-  string console;    // what is said if it alone fails; in braces: under the debug switch
-  Outcome once;      // if it alone fails
-  Outcome for_ever;  // if all behind it fail as well
+  string console;        // what is said if it alone fails; in braces: under the debug switch
+  Outcome once;          // if it alone fails
+  Outcome for_ever;      // if all behind it fail as well
+  test::Names log = {};  // what is logged if it alone fails
 };
 
 const AllocationRow kAllocations[] = {
@@ -284,44 +300,84 @@ const AllocationRow kAllocations[] = {
      NoOnuTypeList("ddReadAllSupportedOnuInformation", "pOnuLanTypeArray"),
      {-27, InOnus({1, 1, 1, 1})},
      {-27, InOnus({1, 1, 1, 1})}},
-    {"FirstOnu", NoOnuRecord("1"), kWithoutTheFirstOnu, kWithoutOnus},
+    {"FirstOnu", NoOnuRecord("1"), kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusPonPorts",
      NoOnuPorts("1", "ddAddSupportedPonToOnuObj", "pOnuPonArray", "ddAddSupportedPonToOnuObj"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusPonPort", NoOnuPort("1", kNoPonCopy, "Pon", "NameKeyPon1", "-1"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusLanPorts",
      NoOnuPorts("1", "ddAddSupportedPonToOnuObj", "pOnuLanPortArray", "ddAddSupportedLanToOnuObj"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusLanPort",
      NoOnuPort("1", "\r\nddCreateOneOnuLanObjByName, pstOnuLanPortInformationOut = 0x0, ulIndex= 0",
                "Lan", "NameKeyLanPort1", "-27"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusPotsPorts",
      NoOnuPorts("1", "ddAddSupportedPotsToOnuObj", "pOnuPotsPortArray",
                 "ddAddSupportedPotsToOnuObj"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusPotsPort",
      NoOnuPort("1",
                "\r\nddCreateOneOnuPotsObjByName, pstOnuPotsPortInformationOut = 0x0, ulIndex = 0",
                "Pots", "NameKeyPotsPort1", "-1"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusSpecialPorts",
      NoOnuPorts("1", "ddAddSupportedSpecialPortToOnuObj", "pOnuSpecialPortArray",
                 "ddAddSupportedSpecialPortToOnuObj"),
-     kWithoutTheFirstOnu, kWithoutOnus},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
     {"FirstOnusSpecialPort",
      NoOnuPort("1",
                "\r\nddCreateOneOnuSpecialPortObjByName, pstOnuSpecialPortInformationOut = 0x0, "
                "ulIndex = 0",
                "SpecialPort", "NameKeySpecialPort1", "-1"),
-     kWithoutTheFirstOnu, kWithoutOnus},
-    {"SecondOnu", NoOnuRecord("2"), kWithoutTheSecondOnu, kWithoutTheSecondOnu},
+     kWithoutTheFirstOnu, kStopsWithoutOnus},
+    {"SecondOnu", NoOnuRecord("2"), kWithoutTheSecondOnu, kStopsWithoutTheSecondOnu},
     {"SecondOnusPonPorts",
      NoOnuPorts("2", "ddAddSupportedPonToOnuObj", "pOnuPonArray", "ddAddSupportedPonToOnuObj"),
-     kWithoutTheSecondOnu, kWithoutTheSecondOnu},
+     kWithoutTheSecondOnu, kStopsWithoutTheSecondOnu},
     {"SecondOnusPonPort", NoOnuPort("2", kNoPonCopy, "Pon", "NameKeyPon1", "-1"),
-     kWithoutTheSecondOnu, kWithoutTheSecondOnu},
+     kWithoutTheSecondOnu, kStopsWithoutTheSecondOnu},
+    {"OpticalList",
+     test::kOpticalFailed,
+     StoppedAtOpticalModules({.loaded = test::kEverything}, -22),
+     StoppedAtOpticalModules({.loaded = test::kEverything}, -22),
+     {test::optical::kNoMemoryForList, test::optical::NotLoaded("-22")}},
+    {"FirstOpticalModule",
+     "",
+     kWithoutTheFirstOpticalModule,
+     kWithoutOpticalModules,
+     {kNoMemoryForModule, Left("-22", "O1")}},
+    {"FirstOpticalModulesPaths",
+     "",
+     kWithoutTheFirstOpticalModule,
+     kWithoutOpticalModules,
+     {NoMemoryForPaths("2"), Left("-22", "O1")}},
+    {"FirstOpticalModulesFirstPath",
+     "",
+     kWithoutTheFirstOpticalModule,
+     kWithoutOpticalModules,
+     {kNoMemoryForPath, PathNotRead("-22", "-10,-30,-5,-28"), Left("-7", "O1")}},
+    {"FirstOpticalModulesSecondPath",
+     "",
+     kWithoutTheFirstOpticalModule,
+     kWithoutOpticalModules,
+     {kNoMemoryForPath, PathNotRead("-22", "50,10,-70,-270"), Left("-7", "O1")}},
+    {"SecondOpticalModule",
+     "",
+     kWithoutTheSecondOpticalModule,
+     kWithoutTheSecondOpticalModule,
+     {kNoMemoryForModule, Left("-22", "O2")}},
+    {"SecondOpticalModulesPaths",
+     "",
+     kWithoutTheSecondOpticalModule,
+     kWithoutTheSecondOpticalModule,
+     {NoMemoryForPaths("1"), Left("-22", "O2")}},
+    {"SecondOpticalModulesPath",
+     "",
+     kWithoutTheSecondOpticalModule,
+     kWithoutTheSecondOpticalModule,
+     {kNoMemoryForPath, PathNotRead("-22", "1,2,3,4"), Left("-7", "O2")}},
 };
 
 TEST_F(StartupMemory, AStartMakesTheseAllocations) {
@@ -341,6 +397,10 @@ TEST_F(StartupMemory, OneAllocationFails) {
       ddDebugPrint = debug;
       ExpectStart(failing, 1, row.once);
       EXPECT_EQ(console_.Text(), test::Said(row.console, debug != 0));
+      EXPECT_EQ(test::FakePlatform::TakeLog(), row.log);
+      if (HasFailure()) {
+        return;  // its words go to the caught console, too
+      }
     }
   }
 }

@@ -9,25 +9,34 @@
 #include <vector>
 
 #include "context/device_file.h"
+#include "context/start_outcome.h"
 #include "support/leaks.h"
+#include "support/optmodule_messages.h"
+#include "support/optmodules.h"
 #include "support/tables.h"
 #include "support/text.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace {
 
 using std::string;
 using test::DeviceFile;
+using test::FakePlatform;
 using test::FileBefore;
+using test::Names;
+using test::optical::NoCount;
+using test::optical::NotLoaded;
 using enum test::Step;
 
-// What the tables of the complete file lead to: nine arrays, two modules, two port
+// What the tables of the complete files lead to: ten arrays, two modules, two port
 // types, a main board, two boards, each with an array and a port, the boards of the
-// slots, an ONU port type of each kind, and two ONU types, one with a port of each kind
-// in an array of its own, the other with one.
-constexpr size_t kBlocks = 9 + 2 + 2 + 1 + 2 * 3 + 1 + 4 + 1 + 4 * 2 + 1 + 2;
+// slots, an ONU port type of each kind, two ONU types, one with a port of each kind
+// in an array of its own, the other with one, and two optical modules, each with an
+// array, and their three paths.
+constexpr size_t kBlocks = 10 + 2 + 2 + 1 + 2 * 3 + 1 + 4 + 1 + 4 * 2 + 1 + 2 + 2 * 2 + 3;
 
 class Startup : public test::LibraryTest {
  protected:
@@ -134,7 +143,14 @@ class Startup : public test::LibraryTest {
     EXPECT_EQ(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType, 6001u);
     EXPECT_EQ(gstSupportedOnuType.ulSupportedOnuMaxLanNum, 1u);
   }
-  static void ExpectEverything() {
+  static void ExpectOpticalModules() {
+    ASSERT_EQ(g_optmdule_infolist.listnum, 2);
+    test::ExpectOptModule(*g_optmdule_infolist.objlist[0],
+                          {1, 2, 7, {{-10, -30, -5, -28}, {50, 10, -70, -270}}});
+    test::ExpectOptModule(*g_optmdule_infolist.objlist[1], {2, 31, 0, {{1, 2, 3, 4}}});
+  }
+  // All that the device file gives.
+  static void ExpectTables() {
     ExpectVersions();
     ExpectModules();
     ExpectFunctions();
@@ -147,6 +163,10 @@ class Startup : public test::LibraryTest {
     ExpectOnuPotsTypes();
     ExpectOnuSpecialPortTypes();
     ExpectOnus();
+  }
+  static void ExpectEverything() {
+    ExpectTables();
+    ExpectOpticalModules();
   }
   static bool AreZero(const void* bytes, size_t size) {
     const char* const begin = static_cast<const char*>(bytes);
@@ -186,6 +206,9 @@ class Startup : public test::LibraryTest {
     return table.ulSupportedOnuTypeNum == 0 && table.pOnuTypeArray == nullptr &&
            table.ulSupportedOnuMaxLanOnuType == 0 && table.ulSupportedOnuMaxLanNum == 0;
   }
+  static bool IsZero(const OptModuleInfoList& list) {
+    return list.listnum == 0 && list.objlist == nullptr;
+  }
   static bool IsZero(const FrameInformation& frame) {
     const auto is_zero = [](const BalanceSwitchLogicPortInfo& entry) {
       return entry.ucSlotOut == 0 && entry.ucSlotPort == 0 && entry.usChipPort == 0 &&
@@ -211,6 +234,7 @@ class Startup : public test::LibraryTest {
     EXPECT_TRUE(IsZero(gstSupportedOnuPotsType));
     EXPECT_TRUE(IsZero(gstSupportedOnuSpecialPortType));
     EXPECT_TRUE(IsZero(gstSupportedOnuType));
+    EXPECT_TRUE(IsZero(g_optmdule_infolist));
   }
   // Leaves over from an earlier life.
   static void FillWithOldData() {
@@ -226,6 +250,7 @@ class Startup : public test::LibraryTest {
     gstSupportedOnuPotsType = {9, SomeAddress<OnuPortTypeInformation*>()};
     gstSupportedOnuSpecialPortType = {9, SomeAddress<OnuPortTypeInformation*>()};
     gstSupportedOnuType = {9, SomeAddress<OnuInformation*>(), 8, 7};
+    g_optmdule_infolist = {9, SomeAddress<OptModuleInfo*>()};
   }
   template <typename Record>
   static Record* SomeAddress() {
@@ -242,6 +267,7 @@ TEST_F(Startup, LoadsEveryTable) {
     EXPECT_EQ(ddInit(), 0);
     ExpectEverything();
     EXPECT_EQ(console_.Text(), "");
+    EXPECT_EQ(FakePlatform::TakeLog(), Names());
     EXPECT_EQ(device.faults.closes, device.faults.opens.count());
     EXPECT_EQ(device.faults.blocks.size(), kBlocks);
     test::ExpectNoLeak(device.faults);
@@ -268,6 +294,18 @@ TEST_F(Startup, FailureMessageShowsTheLiteralPathToo) {
             "strDeviceDefFilePath = /mnt/work/device_definition.ini");
 }
 
+// The optical modules come behind it.
+TEST_F(Startup, TheReaderReadsTheDeviceFileOnly) {
+  DeviceFile device;
+  g_optmdule_infolist = {9, SomeAddress<OptModuleInfo*>()};
+  EXPECT_EQ(ddReadContextFile(), 0);
+  ExpectTables();
+  EXPECT_EQ(g_optmdule_infolist.listnum, 9);
+  EXPECT_EQ(g_optmdule_infolist.objlist, SomeAddress<OptModuleInfo*>());
+  g_optmdule_infolist = {};
+}
+
+// Nothing of the optical file is read then, and an old list of its modules is forgotten.
 TEST_F(Startup, MissingFileIsReportedFromTheLookupUp) {
   for (const int32_t debug : {0, 1}) {
     ddDebugPrint = debug;
@@ -281,6 +319,7 @@ TEST_F(Startup, MissingFileIsReportedFromTheLookupUp) {
               "strDeviceDefFilePath = /mnt/work/device_definition.ini"
               "\r\nddReadContextFile->ddParseContextFile err! iResult = -31"
               "ddInit initialize......failed!\r\n");
+    EXPECT_EQ(FakePlatform::TakeLog(), Names());
     EXPECT_EQ(device.faults.opens.count(), 1);
     ExpectAllZero();
     EXPECT_TRUE(device.faults.blocks.empty());
@@ -303,8 +342,13 @@ TEST_F(Startup, ClearsTheWholeTablesBeforeTheLoad) {
       "[SupportedOnuLanType]\nSupportedOnuLanTypeNum=0\n"
       "[SupportedOnuPotsType]\nSupportedOnuPotsTypeNum=0\n"
       "[SupportedOnuSpecialPortType]\nSupportedOnuSpecialPortTypeNum=0\n"
-      "[SupportedOnuType]\nSupportedOnuTypeNum=0\n");
+      "[SupportedOnuType]\nSupportedOnuTypeNum=0\n",
+      "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum=0\n");
+  // When the work buffer is released, the old list of optical modules is long forgotten.
+  device.faults.on_free = [](void*, size_t) { EXPECT_TRUE(IsZero(g_optmdule_infolist)); };
   EXPECT_EQ(ddInit(), 0);
+  device.faults.on_free = nullptr;
+  EXPECT_EQ(device.faults.frees, 1);
   EXPECT_EQ(console_.Text(),
             "\r\nddReadAllSupportedOltPortInformation err! ulSupportedOltPortTypeNum = 0"
             "\r\nddReadAllSupportedMainBoardInformation err! ulSupportedOnuTypeNum = 0"
@@ -317,6 +361,7 @@ TEST_F(Startup, ClearsTheWholeTablesBeforeTheLoad) {
             "\r\nddReadAllSupportedOnuSpecialPortInformation ok! "
             "ulSupportedOnuSpecialPortTypeNum = 0"
             "\r\nddReadAllSupportedOnuInformation ok! ulSupportedOnuTypeNum = 0");
+  EXPECT_EQ(FakePlatform::TakeLog(), Names{test::optical::kNoneAnnounced});
   VersionInformation versions = {};
   versions.ulSupportedSoftVerNum = 1;
   versions.astSupportedSoftVer[0] = {2, "V"};
@@ -405,6 +450,8 @@ class FailingStep : public Startup, public testing::WithParamInterface<FailRow> 
         expect_table[step]();
       }
     }
+    EXPECT_TRUE(IsZero(g_optmdule_infolist));
+    EXPECT_EQ(FakePlatform::TakeLog(), Names());
   }
   // What the loader and the parse driver say.
   static string Said() {
@@ -553,6 +600,63 @@ const FailRow kFails[] = {
 INSTANTIATE_TEST_SUITE_P(Startup, FailingStep, testing::ValuesIn(kFails),
                          testing::PrintToStringParamName());
 
+// ---- The optical file ----------------------------------------------------------
+
+struct OpticalRow {
+  const char* name;
+  const char* file;  // null: there is none
+  int32_t code;
+  Names log;
+  friend std::ostream& operator<<(std::ostream& out, const OpticalRow& row) {
+    return out << row.name;
+  }
+};
+
+class FailingOpticalFile : public Startup, public testing::WithParamInterface<OpticalRow> {};
+
+// The old list is forgotten, not released.
+TEST_P(FailingOpticalFile, LeavesTheOtherTables) {
+  for (const int32_t debug : {0, 1}) {
+    test::ResetTables();
+    FillWithOldData();
+    ddDebugPrint = debug;
+    DeviceFile device(FileBefore(kSteps), GetParam().file != nullptr ? GetParam().file : "");
+    if (GetParam().file == nullptr) {
+      device.RemoveOptical();
+    }
+    EXPECT_EQ(ddInit(), GetParam().code);
+    EXPECT_EQ(console_.Text(), "ddInit optfile initialize......failed!\r\n");
+    EXPECT_EQ(FakePlatform::TakeLog(), GetParam().log);
+    ExpectTables();
+    EXPECT_TRUE(IsZero(g_optmdule_infolist));
+    EXPECT_EQ(device.faults.frees, 1);  // the work buffer
+    test::ExpectNoLeak(device.faults);
+  }
+}
+
+const OpticalRow kOpticalRows[] = {
+    {"Missing", nullptr, -1, {NoCount("-10"), NotLoaded("-1")}},
+    {"NoSection", "[O1]\nPortKind=1\n", -1, {NoCount("-1"), NotLoaded("-1")}},
+    {"TooMany",
+     "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum=51\n",
+     -15,
+     {test::optical::TooMany("51"), NotLoaded("-15")}},
+};
+INSTANTIATE_TEST_SUITE_P(Startup, FailingOpticalFile, testing::ValuesIn(kOpticalRows),
+                         testing::PrintToStringParamName());
+
+// The sections of one file are not looked for in the other.
+TEST_F(Startup, TheFilesAreNotMixed) {
+  DeviceFile swapped(test::kOpticalModules, FileBefore(kSteps));
+  EXPECT_EQ(ddInit(), -31);
+  swapped.faults.paths[test::kDeviceFile] = swapped.optical.path();
+  EXPECT_EQ(ddInit(), -1);
+  test::ResetTables();
+  swapped.faults.paths[test::kOpticalFile] = swapped.file.path();
+  EXPECT_EQ(ddInit(), 0);
+  ExpectEverything();
+}
+
 // ---- Placeholders ----------------------------------------------------------------
 
 TEST_F(Startup, HooksAndPlaceholdersDoNothing) {
@@ -564,24 +668,24 @@ TEST_F(Startup, HooksAndPlaceholdersDoNothing) {
   EXPECT_EQ(dosFsMsgLevel, 5);
   EXPECT_EQ(device.faults.opens.count(), 0);
   EXPECT_EQ(device.faults.allocations.count(), 0);
-  EXPECT_TRUE(test::FakePlatform::Get().installed.empty());
-  EXPECT_TRUE(test::FakePlatform::Get().registered_modules.empty());
+  EXPECT_TRUE(FakePlatform::Get().installed.empty());
+  EXPECT_TRUE(FakePlatform::Get().registered_modules.empty());
   EXPECT_EQ(console_.Text(), "");
   EXPECT_TRUE(IsZero(gstVersionInformation));
 }
 
 TEST_F(Startup, AsksThePlatformOnlyForPonCardsAndForTheDeviceType) {
-  test::FakePlatform::Get().pon_cards = {3102};
+  FakePlatform::Get().pon_cards = {3102};
   DeviceFile device;
   EXPECT_EQ(ddInit(), 0);
-  EXPECT_EQ(test::FakePlatform::TakeAsked(),
+  EXPECT_EQ(FakePlatform::TakeAsked(),
             (std::vector<string>{"pon 3102", "pon 3201", "device type"}));
   EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonType, 3102u);
   EXPECT_EQ(gstSupportedBoardType.ulSupportedBoardMaxPonNum, 1u);
-  EXPECT_TRUE(test::FakePlatform::Get().installed.empty());
-  EXPECT_TRUE(test::FakePlatform::Get().registered_modules.empty());
-  EXPECT_TRUE(test::FakePlatform::Get().delays.empty());
-  EXPECT_EQ(test::FakePlatform::Get().terminal, "");
+  EXPECT_TRUE(FakePlatform::Get().installed.empty());
+  EXPECT_TRUE(FakePlatform::Get().registered_modules.empty());
+  EXPECT_TRUE(FakePlatform::Get().delays.empty());
+  EXPECT_EQ(FakePlatform::Get().terminal, "");
 }
 
 }  // namespace

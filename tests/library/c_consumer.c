@@ -3,9 +3,12 @@
  * that is exported, starts the library and asks it a few questions.
  *     c_consumer EXPORTS    (the list of exported symbols)
  */
+#define _POSIX_C_SOURCE 200809L
+
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <unistd.h>
 
 #include "host.h"
 #include "sys_context/cfgfile.h"
@@ -14,6 +17,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 #include "sys_context/platform.h"
 
 #define COUNT(array) (sizeof(array) / sizeof((array)[0]))
@@ -47,6 +51,8 @@ static const struct {
     FUNCTION(ddParseContextFile),
     FUNCTION(ddReadContextFile),
     FUNCTION(dosFsVolumeBioBufferSize),
+    FUNCTION(ddReadContextFileToBuf),
+    FUNCTION(read_compress_context_file),
     FUNCTION(ddIsContextVerMatchSoftVer),
     FUNCTION(ddReadVersionInformation),
     FUNCTION(ddGetModuleNameByType),
@@ -219,12 +225,25 @@ static const struct {
     FUNCTION(ddGetOnuTypeByName),
     FUNCTION(ddGetSupportedOnuMaxLanNum),
     FUNCTION(ddIsOnuSupportedByType),
+    FUNCTION(init_optmodule_info),
+    FUNCTION(optmodule_defines_fileparse),
+    FUNCTION(optmodule_file_free),
+    FUNCTION(optmodule_infolist_read),
+    FUNCTION(optmodule_oneinfo_read),
+    FUNCTION(optmodule_oneobj_free),
+    FUNCTION(optmodule_onuthres_read),
+    FUNCTION(get_onu_optmodule_thresinfo),
+    FUNCTION(get_port_optmodule_thresinfo),
+    FUNCTION(install_gepon_optmodule_inforead_element),
+    FUNCTION(show_optmodule_fileinfo_byindex),
+    FUNCTION(show_optmodule_info_func),
     FUNCTION(ddCmdInit),
     FUNCTION(ddShowAllBoardInfo_Func),
     FUNCTION(ddShowAllDevice_Func),
     FUNCTION(ddShowAllModuleInfo_Func),
     FUNCTION(ddShowAllSupportedOnuType_Func),
     FUNCTION(ddShowAllSupportedOnu_Func),
+    FUNCTION(ddShowContextFile_Func),
     FUNCTION(ddShowFrameInfo_Func),
     FUNCTION(ddShowMainBoardInfo_Func),
     FUNCTION(ddShowOltPortInfo_Func),
@@ -235,6 +254,7 @@ static const struct {
     FUNCTION(ddShowOnuSpecialPortInfo_Func),
     FUNCTION(ddShowSysSupportFuncInfo_Func),
     FUNCTION(ddShowVersionInfo_Func),
+    FUNCTION(ddUploadContextFile_Func),
     FUNCTION(ddPrintAllContextInformation),
     FUNCTION(ddPrintAllModuleInformation),
     FUNCTION(ddPrintAllSupportedBoardInfomation),
@@ -252,6 +272,9 @@ static const struct {
     FUNCTION(ddPrintSlotClassInformation),
     FUNCTION(ddPrintSysSupportFuncInformation),
     FUNCTION(ddPrintVersionInformation),
+    FUNCTION(ddPrintBuf),
+    FUNCTION(ddPrintContextFile),
+    FUNCTION(ddUploadContextFile),
 };
 
 #define VARIABLE(name) \
@@ -284,11 +307,14 @@ static const struct {
     VARIABLE(gstSupportedOnuPotsType),
     VARIABLE(gstSupportedOnuSpecialPortType),
     VARIABLE(gstSupportedOnuType),
+    VARIABLE(g_optmdule_infolist),
+    VARIABLE(show_optmodule_info_cmd),
     VARIABLE(ddShowAllBoardInfo_CMD),
     VARIABLE(ddShowAllDevice_CMD),
     VARIABLE(ddShowAllModuleInfo_CMD),
     VARIABLE(ddShowAllSupportedOnuType_CMD),
     VARIABLE(ddShowAllSupportedOnu_CMD),
+    VARIABLE(ddShowContextFile_CMD),
     VARIABLE(ddShowFrameInfo_CMD),
     VARIABLE(ddShowMainBoardInfo_CMD),
     VARIABLE(ddShowOltPortInfo_CMD),
@@ -299,6 +325,7 @@ static const struct {
     VARIABLE(ddShowOnuSpecialPortInfo_CMD),
     VARIABLE(ddShowSysSupportFuncInfo_CMD),
     VARIABLE(ddShowVersionInfo_CMD),
+    VARIABLE(ddUploadContextFile_CMD),
 };
 
 static int has_function(const char* name) {
@@ -391,6 +418,7 @@ static void variables_have_their_first_values(void) {
   CHECK(gstSupportedOnuType.pOnuTypeArray == NULL);
   CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType == 0);
   CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanNum == 0);
+  CHECK(g_optmdule_infolist.listnum == 0 && g_optmdule_infolist.objlist == NULL);
   CHECK(strcmp(dd_gstrSectionFrameInfomation, "FrameInfomation") == 0);
   CHECK(strcmp(dd_gstrKeyFrameName, "Name") == 0);
   CHECK(strcmp(dd_gstrKeyFrameType, "Type") == 0);
@@ -406,6 +434,7 @@ static void a_missing_file_is_reported(void) {
                "strDeviceDefFilePath = /mnt/work/device_definition.ini"
                "\r\nddReadContextFile->ddParseContextFile err! iResult = -31"
                "ddInit initialize......failed!\r\n") == 0);
+  CHECK(strcmp(platform.log, "") == 0);
 }
 
 static void the_library_starts(void) {
@@ -448,6 +477,15 @@ static void the_library_starts(void) {
       "LanPortNum = 2\nNameKeyLanPort1 = GE\nNameKeyLanPort2 = GE\n"
       "PotsPortNum = 1\nNameKeyPotsPort1 = FXS\n"
       "SpecialPortNum = 1\nNameKeySpecialPort1 = CATV\n");
+  set_optical_file(
+      "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum = 3\n"
+      "SupportedOptModuleInfo1 = OltGpon\nSupportedOptModuleInfo2 = Broken\n"
+      "SupportedOptModuleInfo3 = OnuGpon\n"
+      "[OltGpon]\nPortKind = 1\nPortType = 2\nPhyType = 3\nPathNum = 2\n"
+      "Path1 = 500,150,-800,-2800\nPath2 = 400,200,-900,-2600\n"
+      "[Broken]\nPortKind = 1\nPortType = 2\n"
+      "[OnuGpon]\nPortKind = 3\nPortType = 2\nPhyType = 1\nPathNum = 1\n"
+      "Path1 = 500,50,-800,-2700\n");
   platform.pon_card = 3102;
   platform.uplink_card = 3102;
   platform.device_type = 17;
@@ -472,6 +510,12 @@ static void the_library_starts(void) {
   CHECK(gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray[0]->ulPortType == 5);
   CHECK(gstSupportedOnuType.ulSupportedOnuTypeNum == 1);
   CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanOnuType == 6003);
+  CHECK(g_optmdule_infolist.listnum == 2);
+  CHECK(strcmp(platform.log,
+               "6 optmodule_oneinfo_read err! ret = -2, strSectionFrameNameBuf = Broken, "
+               "Key = PhyType.\r\n"
+               "6 optmodule_infolist_read:optmodule_onuinfo_read err! ret = -3, "
+               "section = Broken.\r\n") == 0);
 }
 
 static void queries_are_answered(void) {
@@ -543,6 +587,19 @@ static void onu_queries_are_answered(void) {
   CHECK(ddGetAllSupportedOnuType(&number, types) == 0 && number == 1 && types[0] == 6003);
 }
 
+static void power_limits_are_answered(void) {
+  OptModuleThreshold paths[2] = {{0, 0, 0, 0}, {0, 0, 0, 0}};
+  uint16_t count = 2;
+  CHECK(get_port_optmodule_thresinfo(2, 1, 3, &count, paths) == 0 && count == 2);
+  CHECK(paths[0].outup == 500 && paths[0].outdn == 150);
+  CHECK(paths[0].inup == -800 && paths[0].indn == -2800);
+  CHECK(paths[1].indn == -2600);
+  platform.fitted_onu = 6003;
+  CHECK(get_onu_optmodule_thresinfo(1, 2, 3, 9, &count, paths) == 0 && count == 1);
+  CHECK(paths[0].outdn == 50);
+  CHECK(get_onu_optmodule_thresinfo(1, 2, 4, 9, &count, paths) == -7);
+}
+
 /* Of types that the definition file does not know. */
 static void the_host_answers_for_other_onu_types(void) {
   char name[MAX_ONU_NAME_LEN];
@@ -575,10 +632,22 @@ static void a_board_can_be_freed_by_the_host(void) {
   CHECK(ddFreeOneBoardAllObj(board) == 0);
 }
 
+static void optical_modules_can_be_freed_by_the_host(void) {
+  OptModuleInfo* module = NULL;
+  OptModuleThreshold* path = NULL;
+  CHECK(optmodule_oneinfo_read("/mnt/work/optmodule_definition.ini", "OnuGpon", 0, &module) == 0);
+  CHECK(module != NULL && module->kind == OPTMODULE_KIND_ONU_PON && module->pathnum == 1);
+  CHECK(optmodule_oneobj_free(module) == 0);
+  CHECK(optmodule_onuthres_read("-10,-30,-5,-28", &path) == 0);
+  CHECK(path != NULL && path->outup == -10 && path->indn == -28);
+  free(path);
+}
+
 static void commands_are_installed(void) {
   int terminal = 0;
   CHECK(platform.registered == 1 && platform.versions == 1);
-  CHECK(platform.installed == 15);
+  CHECK(platform.installed == 17);
+  CHECK(platform.vk_record == &show_optmodule_info_cmd);
   CHECK(platform.records[6] == &ddShowFrameInfo_CMD);
   CHECK(platform.records[14] == &ddShowAllDevice_CMD);
   CHECK(platform.records[0] == &ddShowVersionInfo_CMD);
@@ -639,6 +708,73 @@ static void onu_types_are_shown(void) {
                "\r\n   0. ulSpecialPortType =   5, ulNameLen =  5, acName = CATV\r\n") == 0);
 }
 
+static void optical_modules_are_shown(void) {
+  int terminal = 0;
+  char index[] = "2";
+  char* words[] = {index, NULL};
+  platform.terminal[0] = '\0';
+  CommandRecord* const record = platform.vk_record;
+  CHECK(record != NULL && record->func(record, &terminal, 1, words) == 0);
+  CHECK(platform.terminal_used == &terminal);
+  CHECK(strcmp(platform.terminal,
+               "ONU PON Optical Module Index 2:\r\nPortType: 2,  PhyType: 1  \r\n"
+               "PON path num: 1 \r\n"
+               "path 1: inup: -800, indn -2700, outup 500, outdn 50.\r\n") == 0);
+  CHECK(install_gepon_optmodule_inforead_element() == 6);
+}
+
+static void the_stored_file_is_shown_and_uploaded(void) {
+  int terminal = 0;
+  char address[] = "192.168.8.2";
+  char own_address[] = "192.168.8.1";
+  char user[] = "user";
+  char password[] = "word";
+  char file[] = "dd.ini";
+  char* words[] = {address, user, password, file, NULL};
+  CommandRecord* const show = platform.records[15];
+  CommandRecord* const upload = platform.records[16];
+  CHECK(show == &ddShowContextFile_CMD && upload == &ddUploadContextFile_CMD);
+  platform.flash = "zip\\Wfstjpo^"; /* [Version] */
+  platform.terminal[0] = '\0';
+  CHECK(show->func(show, &terminal, 0, NULL) == 0);
+  CHECK(platform.terminal_used == &terminal);
+  CHECK(strcmp(platform.terminal, "\r\n[Version]\r\n") == 0);
+  CHECK(upload->func(upload, &terminal, 4, words) == 0);
+  CHECK(strcmp(platform.uploaded, "192.168.8.2 user word dd.ini: [Version]") == 0);
+  words[0] = own_address;
+  platform.uploaded[0] = '\0';
+  CHECK(upload->func(upload, &terminal, 4, words) == -1);
+  CHECK(platform.uploaded[0] == '\0');
+}
+
+static void the_stored_file_is_written_to_the_memory_file(void) {
+  char name[] = "/tmp/sys_context_host_XXXXXX";
+  char text[100] = "";
+  const int file = mkstemp(name);
+  strDeviceDefFilePath = name;
+  platform.flash = "[Version]\n";
+  catch_console();
+  const int32_t code = ddReadContextFileToBuf();
+  console_text();
+  CHECK(code == 0);
+  CHECK(read(file, text, sizeof text - 1) == 10);
+  CHECK(strcmp(text, "[Version]\n") == 0);
+  close(file);
+  unlink(name);
+  strDeviceDefFilePath = "/mem/dd.ini";
+}
+
+static void bytes_are_dumped(void) {
+  static const uint8_t bytes[] = {'A', 0};
+  char expected[100];
+  snprintf(expected, sizeof expected, "\r\nBufLen = 2\r\n0x%08x: 41 00 %18s| A . \r\n\r\n",
+           (unsigned)(uintptr_t)bytes, "");
+  catch_console();
+  const int32_t printed = ddPrintBuf(bytes, 2);
+  CHECK(strcmp(console_text(), expected) == 0);
+  CHECK(printed == 2);
+}
+
 static void every_table_is_shown(void) {
   int terminal = 0;
   platform.terminal[0] = '\0';
@@ -667,14 +803,20 @@ int main(int argc, char** argv) {
   frame_queries_are_answered();
   logic_ports_are_answered();
   onu_queries_are_answered();
+  power_limits_are_answered();
   the_host_answers_for_other_onu_types();
   a_board_can_be_freed_by_the_host();
   records_of_onus_can_be_freed_by_the_host();
+  optical_modules_can_be_freed_by_the_host();
   commands_are_installed();
   boards_are_shown();
   slots_are_shown();
   onu_types_are_shown();
+  optical_modules_are_shown();
   every_table_is_shown();
+  the_stored_file_is_shown_and_uploaded();
+  the_stored_file_is_written_to_the_memory_file();
+  bytes_are_dumped();
   hooks_do_nothing();
   return failures() == 0 ? 0 : 1;
 }

@@ -15,6 +15,7 @@ struct Platform platform;
 static int failed;
 static int opened;
 static const char* definition;
+static const char* optical;
 
 void check(int holds, const char* condition, const char* file, int line) {
   if (!holds) {
@@ -29,6 +30,10 @@ int failures(void) {
 
 void set_definition_file(const char* bytes) {
   definition = bytes;
+}
+
+void set_optical_file(const char* bytes) {
+  optical = bytes;
 }
 
 int files_opened(void) {
@@ -48,12 +53,14 @@ static int text_file(const char* text) {
 
 /* In front of the C library's: the library calls this one. */
 FILE* fopen(const char* restrict path, const char* restrict mode) {
-  const int is_definition = strcmp(path, "/mnt/work/device_definition.ini") == 0;
+  const int is_device = strcmp(path, "/mnt/work/device_definition.ini") == 0;
+  const int is_definition = is_device || strcmp(path, "/mnt/work/optmodule_definition.ini") == 0;
+  const char* const text = is_device ? definition : optical;
   opened++;
-  if (is_definition && definition == NULL) {
+  if (is_definition && text == NULL) {
     return NULL;
   }
-  const int file = is_definition ? text_file(definition) : open(path, O_RDONLY);
+  const int file = is_definition ? text_file(text) : open(path, O_RDONLY);
   return file < 0 ? NULL : fdopen(file, mode);
 }
 
@@ -78,7 +85,7 @@ const char* console_text(void) {
   return text;
 }
 
-/* ---- The platform functions that the library calls so far ----------------- */
+/* ---- The platform functions ------------------------------------------------ */
 
 int32_t install_element(int32_t node, struct CommandRecord* record) {
   if (node == 10 && platform.installed < 32) {
@@ -86,6 +93,13 @@ int32_t install_element(int32_t node, struct CommandRecord* record) {
   }
   platform.installed++;
   return 0;
+}
+
+int32_t vk_install_element(int32_t node, struct CommandRecord* record, int32_t a, int32_t b) {
+  if (node == 10 && a == 3 && b == 0) {
+    platform.vk_record = record;
+  }
+  return 6;
 }
 
 int32_t vty_out(void* vty, const char* format, ...) {
@@ -111,6 +125,23 @@ int32_t setModVersion(int32_t modId, int32_t number, const char* version) {
   if (modId == 5 && number == 1 && strlen(version) == 20) {
     platform.versions++;
   }
+  return 0;
+}
+
+int32_t devmgrModuRegId = 31;
+
+int32_t ulogPrintf(int32_t modId, int32_t level, const char* format, ...) {
+  const size_t used = strlen(platform.log);
+  char* const end = platform.log + used;
+  const size_t room = sizeof platform.log - used;
+  if (modId != devmgrModuRegId) {
+    return -1;
+  }
+  const int start = snprintf(end, room, "%d ", level);
+  va_list values;
+  va_start(values, format);
+  vsnprintf(end + start, room - (size_t)start, format, values);
+  va_end(values);
   return 0;
 }
 
@@ -152,6 +183,58 @@ int32_t get_core_card_self_cardnumber(void) {
 
 int32_t get_core_card_detect_type(void) {
   return 101;
+}
+
+int32_t get_valid_onu_type(uint32_t a, uint32_t b, uint32_t c) {
+  return a == 1 && b == 2 && c == 3 ? platform.fitted_onu : -7;
+}
+
+/* The flash store has one file. What is compressed is the text with every byte one up. */
+
+static int is_stored(const char* name) {
+  return platform.flash != NULL && strcmp(name, "/mnt/work/device_definition.ini") == 0;
+}
+
+int32_t flash_sizeof(const char* name) {
+  return is_stored(name) ? (int32_t)strlen(platform.flash) : -1;
+}
+
+int32_t flash_read(const char* name, char* buffer, int32_t* length) {
+  if (!is_stored(name) || *length < (int32_t)strlen(platform.flash)) {
+    return -1;
+  }
+  *length = (int32_t)strlen(platform.flash);
+  memcpy(buffer, platform.flash, (size_t)*length);
+  return 0;
+}
+
+int32_t zUnCompress(uint8_t* dst, uint32_t* dstLength, const uint8_t* src, uint32_t srcLength) {
+  if (*dstLength < srcLength) {
+    return -5;
+  }
+  for (uint32_t i = 0; i < srcLength; i++) {
+    dst[i] = (uint8_t)(src[i] - 1);
+  }
+  *dstLength = srcLength;
+  return 0;
+}
+
+int32_t upload_buf_by_ftp(const char* address, const char* user, const char* password,
+                          const char* file, const char* buffer, uint32_t length) {
+  snprintf(platform.uploaded, sizeof platform.uploaded, "%s %s %s %s: %.*s", address, user,
+           password, file, (int)length, buffer);
+  return 0;
+}
+
+/* The card's own addresses: 192.168.8.1 and 10.10.0.1. */
+
+int32_t is_manage_ipAddr(uint32_t address) {
+  static const uint8_t own[4] = {192, 168, 8, 1};
+  return memcmp(&address, own, sizeof own) == 0;
+}
+
+int32_t diags_is_outbandip(const char* address) {
+  return strcmp(address, "10.10.0.1") == 0;
 }
 
 /* The ONU type service: it knows type 9001, and answers all that it is asked of it

@@ -1,6 +1,6 @@
 /*
- * What the C host programs of these tests share: counting failures, a
- * definition file of their own in the card's place, and the platform.
+ * What the C host programs of these tests share: counting failures,
+ * definition files of their own in the card's places, and the platform.
  */
 #ifndef TESTS_LIBRARY_HOST_H
 #define TESTS_LIBRARY_HOST_H
@@ -17,6 +17,8 @@ int failures(void);
 /* The bytes that the library reads as "/mnt/work/device_definition.ini"; null:
  * there is no such file. */
 void set_definition_file(const char* bytes);
+/* As "/mnt/work/optmodule_definition.ini". */
+void set_optical_file(const char* bytes);
 
 /* Files that were opened since the start. */
 int files_opened(void);
@@ -32,7 +34,12 @@ struct Platform {
   int16_t pon_card;    /* the card type that is a PON card; 0: none is */
   int16_t uplink_card; /* the one that is an uplink card, and configured for every slot */
   int32_t device_type;
-  uint32_t onu_number; /* what the ONU type service answers for type 9001 */
+  uint32_t onu_number;      /* what the ONU type service answers for type 9001 */
+  int32_t fitted_onu;       /* the type of the ONU at 1, 2, 3; elsewhere is none */
+  CommandRecord* vk_record; /* what vk_install_element was given with 10, 3, 0 */
+  char log[1024];           /* what was logged under devmgrModuRegId, with its level */
+  const char* flash;        /* the text of the stored definition file; null: none */
+  char uploaded[1024];      /* the words of the last upload, and its content */
 };
 extern struct Platform platform;
 

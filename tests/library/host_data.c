@@ -12,6 +12,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 #if OWN_DATA
 int32_t ddDebugPrint = 1;
@@ -125,6 +126,27 @@ static void written_onu_tables_are_seen(void) {
   CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanNum == 7);
 }
 
+static void a_written_list_of_optical_modules_is_seen(void) {
+  static OptModuleThreshold path = {.inup = -5, .indn = -28, .outup = -10, .outdn = -30};
+  static OptModuleThreshold* paths[] = {&path};
+  static OptModuleInfo module = {
+      .kind = OPTMODULE_KIND_ONU_PON, .porttype = 2, .phytype = 9, .pathnum = 1, .pathinfo = paths};
+  static OptModuleInfo* modules[] = {&module};
+  static OnuPortTypeInformation pon = {.ulPonType = 2, .ulNameLen = 5, .acName = "GPON"};
+  static OnuPortTypeInformation* pons[] = {&pon};
+  static OnuInformation onu = {.ulOnuType = 6003, .ulTotalPonNum = 1, .pOnuPonArray = pons};
+  static OnuInformation* onus[] = {&onu};
+  OptModuleThreshold told[1] = {{0, 0, 0, 0}};
+  uint16_t count = 1;
+  gstSupportedOnuType.ulSupportedOnuTypeNum = 1;
+  gstSupportedOnuType.pOnuTypeArray = onus;
+  g_optmdule_infolist.listnum = 1;
+  g_optmdule_infolist.objlist = modules;
+  platform.fitted_onu = 6003;
+  CHECK(get_onu_optmodule_thresinfo(1, 2, 3, 0, &count, told) == 0 && count == 1);
+  CHECK(memcmp(told, &path, sizeof path) == 0);
+}
+
 static void loaded_tables_are_seen(void) {
   set_definition_file(
       "[Version]\nSupportedSoftwareVer=HostV2\n"
@@ -153,6 +175,9 @@ static void loaded_tables_are_seen(void) {
       "[SupportedOnuType]\nSupportedOnuTypeNum=1\nSupportedOnuType1=O\n"
       "[O]\nType=6301\nName=KT-S101\nPonNum=1\nNameKeyPon1=XGSPON\n"
       "LanPortNum=0\nPotsPortNum=0\nSpecialPortNum=0\n");
+  set_optical_file(
+      "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum=1\nSupportedOptModuleInfo1=OM\n"
+      "[OM]\nPortKind=1\nPortType=31\nPhyType=4\nPathNum=1\nPath1=1,2,3,4\n");
   platform.device_type = 15;
   dd_gstrKeyFrameType = "Kind";
   dd_gstrKeyFrameName = "Label";
@@ -175,6 +200,9 @@ static void loaded_tables_are_seen(void) {
   CHECK(gstSupportedOnuSpecialPortType.pOnuSpecialPortTypeArray[0]->ulPortType == 24);
   CHECK(gstSupportedOnuType.pOnuTypeArray[0]->ulOnuType == 6301);
   CHECK(gstSupportedOnuType.ulSupportedOnuMaxLanNum == 0);
+  CHECK(g_optmdule_infolist.listnum == 1);
+  CHECK(g_optmdule_infolist.objlist[0]->porttype == 31);
+  CHECK(g_optmdule_infolist.objlist[0]->pathinfo[0]->outup == 1);
 }
 
 int main(void) {
@@ -196,6 +224,7 @@ int main(void) {
   written_olt_tables_are_seen();
   a_written_frame_is_seen();
   written_onu_tables_are_seen();
+  a_written_list_of_optical_modules_is_seen();
   loaded_tables_are_seen();
   return failures() == 0 ? 0 : 1;
 }

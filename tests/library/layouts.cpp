@@ -9,6 +9,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 #include "sys_context/platform.h"
 
 static_assert(sizeof(SupportedSoftVer) == 104);
@@ -91,6 +92,12 @@ static_assert(offsetof(OnuPortTypeInformation, ulPortType) == 0);
 static_assert(offsetof(OnuPortTypeInformation, ulNameLen) == 4);
 static_assert(offsetof(OnuPortTypeInformation, acName) == 8);
 static_assert(sizeof(OnuPortTypeInformation::acName) == 60);
+
+static_assert(sizeof(OptModuleThreshold) == 16);
+static_assert(offsetof(OptModuleThreshold, inup) == 0);
+static_assert(offsetof(OptModuleThreshold, indn) == 4);
+static_assert(offsetof(OptModuleThreshold, outup) == 8);
+static_assert(offsetof(OptModuleThreshold, outdn) == 12);
 
 constexpr bool kOnCard = sizeof(void*) == 4;
 
@@ -181,6 +188,22 @@ static_assert(!kOnCard || offsetof(SupportedOnuType, pOnuTypeArray) == 4);
 static_assert(!kOnCard || offsetof(SupportedOnuType, ulSupportedOnuMaxLanOnuType) == 8);
 static_assert(!kOnCard || offsetof(SupportedOnuType, ulSupportedOnuMaxLanNum) == 12);
 
+static_assert(!kOnCard || sizeof(OptModuleInfo) == 16);
+static_assert(!kOnCard || offsetof(OptModuleInfo, kind) == 0);
+static_assert(!kOnCard || offsetof(OptModuleInfo, porttype) == 4);
+static_assert(!kOnCard || offsetof(OptModuleInfo, phytype) == 8);
+static_assert(!kOnCard || offsetof(OptModuleInfo, pathnum) == 10);
+static_assert(!kOnCard || offsetof(OptModuleInfo, pathinfo) == 12);
+static_assert(sizeof(OptModuleInfo::kind) == 2);
+static_assert(sizeof(OptModuleInfo::porttype) == 4);
+static_assert(sizeof(OptModuleInfo::phytype) == 2);
+static_assert(sizeof(OptModuleInfo::pathnum) == 2);
+
+static_assert(!kOnCard || sizeof(OptModuleInfoList) == 8);
+static_assert(!kOnCard || offsetof(OptModuleInfoList, listnum) == 0);
+static_assert(!kOnCard || offsetof(OptModuleInfoList, objlist) == 4);
+static_assert(sizeof(OptModuleInfoList::listnum) == 2);
+
 static_assert(!kOnCard || sizeof(ModuleTypeList) == 8);
 static_assert(!kOnCard || offsetof(ModuleTypeList, ulModuleTypeNum) == 0);
 static_assert(!kOnCard || offsetof(ModuleTypeList, pModuleTypeArray) == 4);
@@ -222,3 +245,5 @@ static_assert(MAX_ONU_PON_NUM_PER_ONU == 5);
 static_assert(MAX_ONU_LAN_NUM_PER_ONU == 100);
 static_assert(MAX_ONU_POTS_NUM_PER_ONU == 100);
 static_assert(MAX_ONU_SPECIAL_PORT_NUM_PER_ONU == 100);
+static_assert(MAX_OPTMODULE_INFO_NUM == 50);
+static_assert(MAX_OPTMODULE_PATH_NUM == 4);

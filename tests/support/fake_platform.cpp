@@ -1,5 +1,7 @@
-// The platform functions that the library calls so far, over FakePlatform.
+// The platform functions, over FakePlatform.
 #include "support/fake_platform.h"
+
+#include <arpa/inet.h>
 
 #include <algorithm>
 #include <cstdarg>
@@ -19,6 +21,10 @@ void FakePlatform::Reset() {
 
 std::vector<std::string> FakePlatform::TakeAsked() {
   return std::exchange(Get().asked, {});
+}
+
+std::vector<std::string> FakePlatform::TakeLog() {
+  return std::exchange(Get().log, {});
 }
 
 namespace {
@@ -47,8 +53,13 @@ int32_t AnswerOnuNumber(const std::string& question, uint32_t* result) {
 using test::FakePlatform;
 
 int32_t install_element(int32_t node, CommandRecord* record) {
-  FakePlatform::Get().installed.push_back({node, record});
+  FakePlatform::Get().installed.push_back({node, record, {}});
   return FakePlatform::Get().install_result;
+}
+
+int32_t vk_install_element(int32_t node, CommandRecord* record, int32_t a, int32_t b) {
+  FakePlatform::Get().installed.push_back({node, record, {a, b}});
+  return FakePlatform::Get().vk_install_result;
 }
 
 int32_t vty_out(void* vty, const char* format, ...) {
@@ -74,6 +85,19 @@ int32_t setModVersion(int32_t modId, int32_t number, const char* version) {
   FakePlatform& platform = FakePlatform::Get();
   platform.versions.push_back({modId, number, version});
   return platform.version_result;
+}
+
+int32_t devmgrModuRegId = 31;
+
+int32_t ulogPrintf(int32_t modId, int32_t level, const char* format, ...) {
+  char text[4096];
+  va_list values;
+  va_start(values, format);
+  std::vsnprintf(text, sizeof text, format, values);
+  va_end(values);
+  FakePlatform::Get().log.push_back(std::to_string(modId) + " " + std::to_string(level) + " " +
+                                    text);
+  return 0;
 }
 
 int32_t bep_taskDelayEx(int32_t ticks) {
@@ -169,4 +193,60 @@ int32_t cs_get_onu_type_by_name(const char* name, uint32_t* result) {
 
 int32_t cs_get_supported_onu_max_lan_num(uint32_t* result) {
   return test::AnswerOnuNumber("cs_get_supported_onu_max_lan_num", result);
+}
+
+int32_t get_valid_onu_type(uint32_t a, uint32_t b, uint32_t c) {
+  test::NoteQuestion("onu " + std::to_string(a) + " " + std::to_string(b) + " " +
+                     std::to_string(c));
+  return FakePlatform::Get().fitted_onu;
+}
+
+int32_t flash_sizeof(const char* name) {
+  test::NoteQuestion(std::string("flash_sizeof ") + name);
+  const FakePlatform& platform = FakePlatform::Get();
+  return platform.flash_size.value_or(static_cast<int32_t>(platform.flash.size()));
+}
+
+int32_t flash_read(const char* name, char* buffer, int32_t* length) {
+  test::NoteQuestion(std::string("flash_read ") + name + " " + std::to_string(*length));
+  const FakePlatform& platform = FakePlatform::Get();
+  if (platform.flash_read_result == 0) {
+    std::copy(platform.flash.begin(), platform.flash.end(), buffer);
+    *length = platform.flash_length.value_or(static_cast<int32_t>(platform.flash.size()));
+  }
+  return platform.flash_read_result;
+}
+
+int32_t zUnCompress(uint8_t* dst, uint32_t* dstLength, const uint8_t* src, uint32_t srcLength) {
+  test::NoteQuestion("zUnCompress " + std::to_string(*dstLength) + " " +
+                     std::string(reinterpret_cast<const char*>(src), srcLength));
+  const FakePlatform& platform = FakePlatform::Get();
+  constexpr int32_t kBufferTooSmall = -5;
+  if (platform.expand_result != 0) {
+    return platform.expand_result;
+  }
+  if (platform.expanded.size() > *dstLength) {
+    return kBufferTooSmall;
+  }
+  std::copy(platform.expanded.begin(), platform.expanded.end(), dst);
+  *dstLength = platform.expanded_length.value_or(static_cast<uint32_t>(platform.expanded.size()));
+  return 0;
+}
+
+int32_t upload_buf_by_ftp(const char* address, const char* user, const char* password,
+                          const char* file, const char* buffer, uint32_t length) {
+  test::NoteQuestion("upload");
+  FakePlatform::Get().uploads.push_back(
+      {address, user, password, file, std::string(buffer, length)});
+  return FakePlatform::Get().upload_result;
+}
+
+int32_t is_manage_ipAddr(uint32_t address) {
+  test::NoteQuestion(std::string("manage ") + inet_ntoa(in_addr{address}));
+  return FakePlatform::Get().manage_result;
+}
+
+int32_t diags_is_outbandip(const char* address) {
+  test::NoteQuestion(std::string("outband ") + address);
+  return FakePlatform::Get().outband_result;
 }

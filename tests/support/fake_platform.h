@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -19,14 +20,18 @@ struct FakePlatform {
   static void Reset();
   // What was asked since the last call; see `asked`.
   static std::vector<std::string> TakeAsked();
+  // What was logged since the last call; see `log`.
+  static std::vector<std::string> TakeLog();
 
-  // Command shell: what was installed, by node, and what terminals show.
+  // Command shell: what was installed, in order, and what terminals show.
   struct Installed {
     int32_t node;
     CommandRecord* record;
+    std::vector<int32_t> further;  // the numbers that vk_install_element is given
   };
   std::vector<Installed> installed;
-  int32_t install_result = 0;
+  int32_t install_result = 0;         // of install_element
+  int32_t vk_install_result = 0;      // of vk_install_element
   std::string terminal;               // all that vty_out wrote
   std::vector<void*> terminals_used;  // the handle of each call of vty_out
 
@@ -41,6 +46,10 @@ struct FakePlatform {
   };
   std::vector<Version> versions;
   int32_t version_result = 0;
+
+  // The platform log: a line for each message, with its module and level: "31 6 text".
+  // devmgrModuRegId is 31.
+  std::vector<std::string> log;
 
   // Task delay: the ticks of each call, and how many bytes the terminal showed
   // at that time.
@@ -74,6 +83,38 @@ struct FakePlatform {
   std::string onu_name;            // "": stores none
   std::vector<uint32_t> onu_list;  // its length is the amount stored
   bool onu_stores = true;          // false: stores nothing
+
+  // The address of an ONU: `asked` names it "onu 1 2 3".
+  int32_t fitted_onu = -1;
+
+  // The flash store holds one file, which it gives whatever the name. `asked` names
+  // every call: "flash_sizeof NAME", "flash_read NAME LENGTH". A failing read stores
+  // nothing.
+  std::string flash;
+  std::optional<int32_t> flash_size;    // what is told instead of the file's size
+  std::optional<int32_t> flash_length;  // what a read stores instead of it
+  int32_t flash_read_result = 0;
+
+  // The decompression gives `expanded`, whatever it is given; `asked` names "zUnCompress
+  // CAPACITY BYTES", with the compressed bytes. It fails with -5 for a smaller capacity.
+  std::string expanded;
+  std::optional<uint32_t> expanded_length;  // what is told instead of its length
+  int32_t expand_result = 0;
+
+  // FTP: what was uploaded. `asked` names "upload". And the checks of the address:
+  // "manage 192.168.8.1", "outband 10.10.0.1".
+  struct Upload {
+    std::string address;
+    std::string user;
+    std::string password;
+    std::string file;
+    std::string content;
+    bool operator==(const Upload&) const = default;
+  };
+  std::vector<Upload> uploads;
+  int32_t upload_result = 0;
+  int32_t manage_result = 0;
+  int32_t outband_result = 0;
 };
 
 }  // namespace test

@@ -1,11 +1,14 @@
 // Stand-ins for functions of the C library; see the header.
 #include "support/faults.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/types.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -88,6 +91,35 @@ FILE* OpenMemory(std::string_view bytes, size_t unreadable_from, const char* mod
                      {ReadMemory, nullptr, SeekMemory, CloseMemory});
 }
 
+constexpr int kFirstDescriptor = 1000;
+
+// A call of the library on a file descriptor, with the watching switched off: the notes
+// allocate.
+class DescriptorCall {
+ public:
+  explicit DescriptorCall(const std::string& call) : faults_(std::exchange(current, nullptr)) {
+    faults_->descriptor_calls.push_back(call);
+  }
+  ~DescriptorCall() { current = faults_; }
+  DescriptorCall(const DescriptorCall&) = delete;
+  DescriptorCall& operator=(const DescriptorCall&) = delete;
+
+  Faults* operator->() const { return faults_; }
+
+ private:
+  Faults* faults_;
+};
+
+bool IsWatched(int descriptor) {
+  return current != nullptr && descriptor >= kFirstDescriptor;
+}
+
+std::string Octal(int number) {
+  char text[16];
+  std::snprintf(text, sizeof text, "%o", static_cast<unsigned int>(number));
+  return text;
+}
+
 }  // namespace
 
 Faults::Faults() {
@@ -111,6 +143,9 @@ void* __real_calloc(size_t count, size_t size);
 void __real_free(void* block);
 FILE* __real_fopen(const char* path, const char* mode);
 int __real_fseek(FILE* stream, long position, int origin);
+int __real_open(const char* path, int flags, ...);
+ssize_t __real_write(int descriptor, const void* bytes, size_t size);
+int __real_close(int descriptor);
 size_t __real_fread(void* buffer, size_t size, size_t count, FILE* stream);
 int __real_fclose(FILE* stream);
 
@@ -119,6 +154,9 @@ void* __wrap_calloc(size_t count, size_t size);
 void __wrap_free(void* block);
 FILE* __wrap_fopen(const char* path, const char* mode);
 int __wrap_fseek(FILE* stream, long position, int origin);
+int __wrap_open(const char* path, int flags, ...);
+ssize_t __wrap_write(int descriptor, const void* bytes, size_t size);
+int __wrap_close(int descriptor);
 size_t __wrap_fread(void* buffer, size_t size, size_t count, FILE* stream);
 int __wrap_fclose(FILE* stream);
 
@@ -184,6 +222,51 @@ int __wrap_fclose(FILE* stream) {
     ++test::current->closes;
   }
   return __real_fclose(stream);
+}
+
+int __wrap_open(const char* path, int flags, ...) {
+  mode_t mode = 0;
+  if ((flags & O_CREAT) != 0) {
+    va_list arguments;
+    va_start(arguments, flags);
+    mode = va_arg(arguments, mode_t);
+    va_end(arguments);
+  }
+  if (test::current == nullptr) {
+    return __real_open(path, flags, mode);
+  }
+  const test::DescriptorCall call(std::string("open ") + path + " " + test::Octal(flags) + " " +
+                                  test::Octal(static_cast<int>(mode)));
+  if (call->descriptor_opens.NextFails()) {
+    return -1;
+  }
+  call->descriptors.push_back(path);
+  call->written[path] = "";
+  return test::kFirstDescriptor + static_cast<int>(call->descriptors.size()) - 1;
+}
+
+ssize_t __wrap_write(int descriptor, const void* bytes, size_t size) {
+  if (!test::IsWatched(descriptor)) {
+    return __real_write(descriptor, bytes, size);
+  }
+  const test::DescriptorCall call("write " + std::to_string(descriptor) + " " +
+                                  std::to_string(size));
+  if (call->writes.NextFails()) {
+    return -1;
+  }
+  const size_t taken = std::min(size, call->write_room);
+  const std::string& path =
+      call->descriptors[static_cast<size_t>(descriptor - test::kFirstDescriptor)];
+  call->written[path].append(static_cast<const char*>(bytes), taken);
+  return static_cast<ssize_t>(taken);
+}
+
+int __wrap_close(int descriptor) {
+  if (!test::IsWatched(descriptor)) {
+    return __real_close(descriptor);
+  }
+  const test::DescriptorCall call("close " + std::to_string(descriptor));
+  return call->descriptor_closes.NextFails() ? -1 : 0;
 }
 
 }  // extern "C"

@@ -10,6 +10,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace test {
 
@@ -61,6 +62,18 @@ struct Faults {
   // that name is needed. Reading at byte `unreadable_from` of them fails.
   std::map<std::string, std::string_view> contents;
   size_t unreadable_from = std::numeric_limits<size_t>::max();
+
+  // Files that the library opens by descriptor: nothing of them is real. `descriptor_calls`
+  // names every call in order: "open PATH FLAGS MODE" (octal), "write 1000 LENGTH",
+  // "close 1000"; `written` is what was written to each path. The descriptors count from
+  // 1000; a failing call returns -1, and a write takes at most `write_room` bytes.
+  FaultPlan descriptor_opens;
+  FaultPlan writes;
+  FaultPlan descriptor_closes;
+  size_t write_room = std::numeric_limits<size_t>::max();
+  std::vector<std::string> descriptor_calls;
+  std::map<std::string, std::string> written;
+  std::vector<std::string> descriptors;  // the path of each
 
   // Called when a block of the library is freed, before that is done.
   void (*on_free)(void* block, size_t size) = nullptr;

@@ -9,6 +9,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace test {
 namespace {
@@ -62,6 +63,13 @@ Blocks ReachableBlocks() {
       AddRecords(blocks, onu->ulTotalLanPortNum, onu->pOnuLanPortArray);
       AddRecords(blocks, onu->ulTotalPotsNum, onu->pOnuPotsPortArray);
       AddRecords(blocks, onu->ulTotalSpecialPortNum, onu->pOnuSpecialPortArray);
+    }
+  }
+  const OptModuleInfoList& modules = g_optmdule_infolist;
+  AddRecords(blocks, modules.listnum, modules.objlist);
+  for (uint16_t i = 0; modules.objlist != nullptr && i < modules.listnum; ++i) {
+    if (const OptModuleInfo* const module = modules.objlist[i]; module != nullptr) {
+      AddRecords(blocks, module->pathnum, module->pathinfo);
     }
   }
   return blocks;

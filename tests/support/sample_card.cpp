@@ -20,6 +20,18 @@ constexpr int32_t kConfiguredCards[] = {kNone, 3101, 3101, 3102, 3103, 3104, 310
 constexpr uint32_t kHcuSlot = 801;
 constexpr int32_t kHcuCard = 624;
 
+// The ONUs that are fitted.
+struct FittedOnu {
+  uint32_t slot;
+  uint32_t port;
+  uint32_t number;
+  int32_t type;
+};
+constexpr FittedOnu kFittedOnus[] = {
+    {1, 1, 1, 6001},  {1, 1, 2, 6012},  {1, 16, 1, 6106}, {5, 1, 1, 6306}, {6, 2, 1, 6203},
+    {11, 1, 1, 6404}, {13, 4, 1, 6502}, {14, 8, 1, 6605}, {2, 3, 1, 9001},
+};
+
 int32_t Answer(bool yes) {
   return yes ? kYes : kNo;
 }
@@ -69,6 +81,15 @@ int32_t caCheckCardTypeIsServiceCard(int16_t cardType) {
 
 int32_t caCheckCardTypeIsUplinkCard(int16_t cardType) {
   return Answer(cardType >= 3301 && cardType <= 3303);
+}
+
+int32_t get_valid_onu_type(uint32_t slot, uint32_t port, uint32_t number) {
+  for (const FittedOnu& onu : kFittedOnus) {
+    if (onu.slot == slot && onu.port == port && onu.number == number) {
+      return onu.type;
+    }
+  }
+  return kNone;
 }
 
 }  // extern "C"

@@ -7,6 +7,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace test {
 
@@ -68,6 +69,7 @@ void ResetTables() {
   ReleaseRecords(gstSupportedOnuType.ulSupportedOnuTypeNum, gstSupportedOnuType.pOnuTypeArray,
                  ReleaseOnu);
   gstSupportedOnuType = {};
+  optmodule_file_free();
   gstVersionInformation = {};
   gstSysSupportFuncType = {};
   gstrddSoftwareVer = "KT2200V4.0";

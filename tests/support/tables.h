@@ -5,6 +5,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <functional>
+#include <string>
+
 #include "support/console.h"
 #include "support/fake_platform.h"
 #include "sys_context/context.h"
@@ -22,6 +26,15 @@ class LibraryTest : public testing::Test {
     FakePlatform::Reset();
   }
   void TearDown() override { ResetTables(); }
+
+  // With the debug switch off and on.
+  static void Twice(const std::function<void(int32_t debug)>& run) {
+    for (const int32_t debug : {0, 1}) {
+      SCOPED_TRACE("ddDebugPrint " + std::to_string(debug));
+      ddDebugPrint = debug;
+      run(debug);
+    }
+  }
 };
 
 }  // namespace test

@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <set>
 
 #include "support/sample_onu_service.h"
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace test {
 namespace {
@@ -376,12 +378,57 @@ std::vector<Sweep> OnuSweeps() {
   };
 }
 
+// Those of the modules, with some that there are not.
+Numbers PhyTypes() {
+  std::set<uint32_t> types = {0, 65535};
+  for (uint32_t i = 0; i < g_optmdule_infolist.listnum; ++i) {
+    types.insert(g_optmdule_infolist.objlist[i]->phytype);
+  }
+  return Numbers(types.begin(), types.end());
+}
+
+// Asks for the limits of up to `room` paths. They go to `limits`, four for a path.
+template <auto query, typename... Inputs>
+int32_t GetLimits(uint32_t* limits, uint32_t room, uint32_t* path_count, Inputs... inputs) {
+  std::vector<OptModuleThreshold> paths(MAX_OPTMODULE_PATH_NUM);
+  auto count = static_cast<uint16_t>(std::min<size_t>(room, paths.size()));
+  const int32_t code = query(inputs..., &count, paths.data());
+  *path_count = count;
+  for (const OptModuleThreshold& path : paths) {
+    for (const int32_t limit : {path.inup, path.indn, path.outup, path.outdn}) {
+      *limits++ = static_cast<uint32_t>(limit);
+    }
+  }
+  return code;
+}
+
+int32_t GetPortLimits(uint32_t slot, uint32_t port, uint32_t phy_type, uint32_t* limits,
+                      uint32_t room, uint32_t* path_count) {
+  return GetLimits<get_port_optmodule_thresinfo>(limits, room, path_count, slot, port,
+                                                 static_cast<uint16_t>(phy_type));
+}
+
+int32_t GetOnuLimits(uint32_t slot, uint32_t port, uint32_t number, uint32_t phy_type,
+                     uint32_t* limits, uint32_t room, uint32_t* path_count) {
+  return GetLimits<get_onu_optmodule_thresinfo>(limits, room, path_count, slot, port, number,
+                                                static_cast<uint16_t>(phy_type));
+}
+
+std::vector<Sweep> OptModuleSweeps() {
+  return {
+      {"get_port_optmodule_thresinfo", AskList(GetPortLimits, kSlots, kSlotPorts, PhyTypes())},
+      {"get_onu_optmodule_thresinfo",
+       AskList(GetOnuLimits, From0To(17), From0To(17), From0To(2), Numbers{0, 1})},
+  };
+}
+
 }  // namespace
 
 std::vector<Sweep> AllSweeps() {
   std::vector<Sweep> all;
-  for (const auto family : {ContextSweeps, PortTypeSweeps, MainBoardSweeps, BoardSweeps, SlotSweeps,
-                            LogicPortSweeps, RunTimeMappingSweeps, OnuPortTypeSweeps, OnuSweeps}) {
+  for (const auto family :
+       {ContextSweeps, PortTypeSweeps, MainBoardSweeps, BoardSweeps, SlotSweeps, LogicPortSweeps,
+        RunTimeMappingSweeps, OnuPortTypeSweeps, OnuSweeps, OptModuleSweeps}) {
     std::vector<Sweep> sweeps = family();
     all.insert(all.end(), std::make_move_iterator(sweeps.begin()),
                std::make_move_iterator(sweeps.end()));

@@ -13,6 +13,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 #include "threads/sweeps.h"
 
 namespace {
@@ -35,6 +36,7 @@ class Sweeps : public testing::Test {
           ddReadAllSupportedOnuInformation}) {
       ASSERT_EQ(load(SYS_CONTEXT_SAMPLE), 0);
     }
+    ASSERT_EQ(optmodule_infolist_read(SYS_CONTEXT_OPTICAL_SAMPLE), 0);
     sweeps_ = test::AllSweeps();
     for (const Sweep& sweep : sweeps_) {
       sweep.ask(expected_.emplace_back());

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace sysctx {
+namespace test {
 
 class TemporaryFolder {
  public:
@@ -25,4 +25,4 @@ class TemporaryFolder {
 // The content of a file; empty when it cannot be read.
 std::string ReadWhole(const std::string& file);
 
-}  // namespace sysctx
+}  // namespace test

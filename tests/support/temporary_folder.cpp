@@ -1,5 +1,5 @@
 // A folder that goes away with its test.
-#include "host/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <fstream>
 #include <sstream>
 
-namespace sysctx {
+namespace test {
 
 TemporaryFolder::TemporaryFolder() {
   std::string name = testing::TempDir() + "sysctx_XXXXXX";
@@ -36,4 +36,4 @@ std::string ReadWhole(const std::string& file) {
   return content.str();
 }
 
-}  // namespace sysctx
+}  // namespace test

@@ -1,0 +1,81 @@
+// The stored definition file, expanded into the memory file.
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "common/codes.h"
+#include "common/memory.h"
+#include "common/messages.h"
+#include "context/stored_file.h"
+#include "sys_context/context.h"
+
+namespace sys_context {
+namespace {
+
+constexpr uint32_t kMemoryFileImageCapacity = 1048576;
+
+// Fetches the text for the memory file; a failure is reported.
+FetchedFile FetchForMemoryFile(char* image, uint8_t* text) {
+  const FetchedFile file = FetchStoredFile(image, kMemoryFileImageCapacity, text);
+  using enum FetchedFile::Outcome;
+  switch (file.outcome) {
+    case kTooLarge:
+      // kept as is: it is not the size of an FTP buffer.
+      Console(
+          "\r\nddReadContextFileToBuf err! memfile_length = %d, FTP_CONTEXT_BUF_SIZE = %d, FLASH_CONTEXT_FILE_KXCB_NAME = %s",
+          file.image_length, kMemoryFileImageCapacity, kDeviceDefinitionFile);
+      break;
+    case kNotRead:
+      std::puts("Read flash failed!\r");
+      break;
+    case kNotExpanded:
+      std::puts("unpack the compress file failed !\r");
+      break;
+    case kDone:
+      break;
+  }
+  return file;
+}
+
+// kept as is: only a failing close is told to the caller, and it is tried twice.
+int32_t WriteMemoryFile(const uint8_t* text, uint32_t length) {
+  constexpr mode_t kNoPermissions = 0;
+  const int descriptor = open(strDeviceDefFilePath, O_RDWR | O_CREAT | O_TRUNC, kNoPermissions);
+  if (descriptor < 0) {
+    Console("Cannot open memory device. fd = %d\r\n", descriptor);
+    return kOk;
+  }
+  if (write(descriptor, text, length) < static_cast<ssize_t>(length)) {
+    Console("write %d bytes to /sdram failed!\r\n", length);
+    close(descriptor);
+    return kOk;
+  }
+  if (close(descriptor) != 0) {
+    Console("iResult = close (fd);, iResult = %d, fd = %d", kNotClosed, descriptor);
+    close(descriptor);
+    return kNotClosed;
+  }
+  return kOk;
+}
+
+}  // namespace
+}  // namespace sys_context
+
+int32_t ddReadContextFileToBuf() {
+  using namespace sys_context;
+  // kept as is: what is not flash, expansion or close is told on the console only.
+  const auto text = NewArray<uint8_t>(kStoredTextCapacity);
+  if (text == nullptr) {
+    std::puts("Not enough memory for ftp buffer.\r");
+    return kOk;
+  }
+  const auto image = NewArray<char>(kMemoryFileImageCapacity);
+  if (image == nullptr) {
+    std::puts("Not enough memory for ftp compress buffer.\r");
+    return kOk;
+  }
+  const FetchedFile file = FetchForMemoryFile(image.get(), text.get());
+  return file.outcome == FetchedFile::Outcome::kDone ? WriteMemoryFile(text.get(), file.text_length)
+                                                     : file.code;
+}
