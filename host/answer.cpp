@@ -7,17 +7,13 @@
 namespace sysctx {
 namespace {
 
-using Numbers = std::span<const std::optional<int64_t>>;
+using Items = std::span<const std::optional<std::string>>;
 using Outputs = std::span<const Output>;
 
 constexpr const char* kUntouched = "(untouched)";
 
-std::string DescribeNumber(const std::optional<int64_t>& number) {
-  return number ? std::to_string(*number) : kUntouched;
-}
-
-// The numbers of a list that belong to it.
-Numbers Counted(Numbers list, const std::optional<int64_t>& count) {
+// The items of a list that belong to it.
+Items Counted(Items list, const std::optional<int64_t>& count) {
   if (count) {
     return list.first(static_cast<size_t>(std::clamp<int64_t>(*count, 0, std::ssize(list))));
   }
@@ -27,15 +23,16 @@ Numbers Counted(Numbers list, const std::optional<int64_t>& count) {
   return list;
 }
 
-std::string DescribeList(Numbers list, const std::optional<int64_t>& count) {
-  const Numbers counted = Counted(list, count);
+std::string DescribeList(const Output& output, const std::optional<int64_t>& count) {
+  const Items counted = Counted(output.items, count);
   const bool is_empty = count && counted.empty();
-  if (!is_empty && std::ranges::none_of(counted, [](const auto& n) { return n.has_value(); })) {
+  if (!is_empty &&
+      std::ranges::none_of(counted, [](const auto& item) { return item.has_value(); })) {
     return std::string(" ") + kUntouched;
   }
   std::string text;
-  for (const std::optional<int64_t>& number : counted) {
-    text += " " + DescribeNumber(number);
+  for (const std::optional<std::string>& item : counted) {
+    text += (text.empty() ? " " : output.between) + item.value_or(kUntouched);
   }
   return text;
 }
@@ -43,6 +40,10 @@ std::string DescribeList(Numbers list, const std::optional<int64_t>& count) {
 std::string DescribeText(const std::optional<std::string>& text) {
   const std::string shown = text.value_or(kUntouched);
   return shown.empty() ? "" : " " + shown;
+}
+
+std::string DescribeNumber(const std::optional<int64_t>& number) {
+  return " " + (number ? std::to_string(*number) : kUntouched);
 }
 
 bool IsNumber(const Output& output) {
@@ -54,24 +55,24 @@ std::optional<int64_t> CountOf(const Output& list, Outputs outputs) {
   const auto place = static_cast<size_t>(&list - outputs.data());
   const Outputs behind = outputs.subspan(place);
   if (const auto count = std::ranges::find_if(behind, IsNumber); count != behind.end()) {
-    return count->numbers.at(0);
+    return count->number;
   }
   const Outputs in_front = outputs.first(place);
   const auto count = std::find_if(in_front.rbegin(), in_front.rend(), IsNumber);
-  return count == in_front.rend() ? std::nullopt : count->numbers.at(0);
+  return count == in_front.rend() ? std::nullopt : count->number;
 }
 
 // What stands behind the "=": nothing for an empty list or text.
 std::string DescribeOutput(const Output& output, Outputs outputs) {
   switch (output.kind) {
     case Output::Kind::kNumber:
-      return " " + DescribeNumber(output.numbers.at(0));
+      return DescribeNumber(output.number);
     case Output::Kind::kList:
-      return DescribeList(output.numbers, CountOf(output, outputs));
+      return DescribeList(output, CountOf(output, outputs));
     case Output::Kind::kText:
       break;
   }
-  return DescribeText(output.text);
+  return DescribeText(output.items.at(0));
 }
 
 }  // namespace

@@ -14,8 +14,9 @@ struct Output {
 
   Kind kind;
   const char* name;
-  std::vector<std::optional<int64_t>> numbers;  // kNumber: one; kList: all there is room for
-  std::optional<std::string> text;              // of kText
+  std::vector<std::optional<std::string>> items = {};  // kText: one; kList: all there is room for
+  std::optional<int64_t> number = std::nullopt;        // of kNumber: it may count a list
+  const char* between = " ";                           // the items of a list
 };
 
 struct Answer {
@@ -25,9 +26,9 @@ struct Answer {
   std::string console;          // what was printed meanwhile
 };
 
-// One line each for the value and every output. A list ends where the number that
-// follows it says (without one: the number in front of it) or, when that was left
-// untouched, behind its last number written.
+// One line each for the value and every output. A list ends where the number that follows it
+// says (without one: the number in front of it) or, when that was left untouched, behind its
+// last item written.
 std::string DescribeAnswer(const Answer& answer);
 
 // 0, or the low byte of a negative value.

@@ -182,4 +182,9 @@ std::string DescribeRecord(const OnuPortTypeInformation& port_type) {
   return Format("%s, type %u", std::string(NameIn(port_type.acName)).c_str(), port_type.ulPortType);
 }
 
+std::string DescribeRecord(const OptModuleThreshold& path) {
+  return Format("inup %d, indn %d, outup %d, outdn %d", path.inup, path.indn, path.outup,
+                path.outdn);
+}
+
 }  // namespace sysctx

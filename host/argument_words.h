@@ -9,6 +9,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace sysctx {
 
@@ -44,5 +45,6 @@ std::string DescribeRecord(const MainBoardInformation& board);
 std::string DescribeRecord(const PortMap& map);
 std::string DescribeRecord(const OltPortInformation& port_type);
 std::string DescribeRecord(const OnuPortTypeInformation& port_type);
+std::string DescribeRecord(const OptModuleThreshold& path);
 
 }  // namespace sysctx

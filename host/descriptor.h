@@ -1,8 +1,11 @@
-// A file descriptor with an owner.
+// A file descriptor with an owner, and reading from one.
 #pragma once
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstddef>
 #include <utility>
 
 namespace sysctx {
@@ -29,5 +32,25 @@ class Descriptor {
  private:
   int number_ = -1;
 };
+
+// Opening does not wait for the other end of a pipe.
+inline constexpr int kReading = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+
+// Reads until `size` bytes are there or there are no more; how many there are, or -1
+// with errno.
+inline ssize_t ReadUpTo(int descriptor, char* buffer, size_t size) {
+  size_t done = 0;
+  while (done < size) {
+    const ssize_t got = read(descriptor, buffer + done, size - done);
+    if (got < 0 && errno != EINTR) {
+      return -1;
+    }
+    if (got == 0) {
+      break;
+    }
+    done += got < 0 ? 0 : static_cast<size_t>(got);
+  }
+  return static_cast<ssize_t>(done);
+}
 
 }  // namespace sysctx

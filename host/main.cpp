@@ -3,6 +3,7 @@
 #include <curl/curl.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -15,6 +16,7 @@
 #include "host/console.h"
 #include "host/modules.h"
 #include "host/options.h"
+#include "host/pack.h"
 #include "host/session.h"
 #include "host/startup.h"
 #include "host/telnet_server.h"
@@ -23,6 +25,8 @@
 
 namespace sysctx {
 namespace {
+
+constexpr const char* kNoOutput = "the output cannot be written";
 
 void StartAndReport() {
   const StartUp start_up = StartLibrary();
@@ -43,7 +47,7 @@ int OnCard(const std::function<int(FILE* out)>& action) {
   }
   const int status = action(console.out());
   if (!console.Finish()) {
-    throw std::runtime_error("the output cannot be written");
+    throw std::runtime_error(kNoOutput);
   }
   return status;
 }
@@ -74,6 +78,19 @@ int AskOne(const Words& words) {
     fprintf(stderr, "sysctx: %s", error.what());
     return kBadRequest;
   }
+}
+
+int PackFile(const std::string& text, const std::string& image) {
+  signal(SIGXFSZ, SIG_IGN);  // a file too large for the limits is an error as a full disk is
+  const Packed packed = Pack(text, image);
+  if (const std::string limits = DescribeLimits(packed); !limits.empty()) {
+    fprintf(stderr, "sysctx: %s", limits.c_str());
+  }
+  fputs(DescribePacked(packed, text, image).c_str(), stdout);
+  if (fflush(stdout) != 0) {
+    throw std::runtime_error(kNoOutput);
+  }
+  return EXIT_SUCCESS;
 }
 
 int ServeTelnet(uint16_t port) {
@@ -110,6 +127,9 @@ int Main(const std::vector<std::string>& arguments) {
   if (options.action == Action::kAsk && options.question.empty()) {
     fputs(DescribeQueries().c_str(), stdout);
     return EXIT_SUCCESS;
+  }
+  if (options.action == Action::kPack) {
+    return PackFile(options.files.at(0), options.files.at(1));
   }
   ddDebugPrint = options.debug ? 1 : 0;
   OpenRoot(options.root.empty() ? SYSCTX_DEFAULT_ROOT : options.root);

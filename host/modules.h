@@ -22,4 +22,8 @@ const std::vector<Module>& RegisteredModules();
 // listing, a script has no use for them.
 void SetTaskDelays(bool real);
 
+// Whether ulogPrintf writes, as it does at first. The second call of a question would log
+// everything twice.
+void SetLogging(bool on);
+
 }  // namespace sysctx

@@ -10,6 +10,7 @@ namespace sysctx {
 const char* const kUsage =
     "Usage: sysctx [--root DIR] [--debug]\n"
     "              [run COMMAND | ask [QUERY [ARGUMENT ...]] | serve --telnet PORT]\n"
+    "       sysctx pack TEXT-FILE IMAGE-FILE\n"
     "\n"
     "A simulated control card: loads the definition files below DIR and serves the\n"
     "diagnostic commands.\n"
@@ -22,9 +23,13 @@ const char* const kUsage =
     "                       answers: \"sysctx ask ddIsRealSlot 7\"\n"
     "  ask                  list the queries with their arguments\n"
     "  serve --telnet PORT  the shell for telnet clients on 127.0.0.1; 0 chooses a port\n"
+    "  pack TEXT-FILE IMAGE-FILE\n"
+    "                       compress a definition file into what the flash store may\n"
+    "                       keep; no card is started\n"
     "\n"
     "  --root DIR           the card's files: DIR/equipment.toml, and \"/mnt/work/...\" and\n"
-    "                       \"/mem/...\" as DIR/mnt/work/... and DIR/mem/...\n"
+    "                       \"/mem/...\" as DIR/mnt/work/... and DIR/mem/...;\n"
+    "                       DIR/flash/mnt/work/... is what flash holds instead, if there\n"
     "                       (default: a sample chassis)\n"
     "  --debug              print the messages that depend on ddDebugPrint, too\n"
     "  --help               this text\n"
@@ -34,7 +39,7 @@ const char* const kUsage =
     "\n"
     "Exit status: the command's result (its low 8 bits) with run; with ask 0, or the\n"
     "low 8 bits of a negative code; 2 for an unknown command or query and for wrong\n"
-    "arguments of a query; 1 when sysctx cannot start.\n";
+    "arguments of a query; 1 when sysctx cannot start or a file cannot be packed.\n";
 
 namespace {
 
@@ -72,16 +77,21 @@ class Parser {
   }
 
   void TakeWord(const std::string& word) {
-    if (is_asking_) {
+    if (owner_ == Action::kAsk) {
       TakeQuestion();
+    } else if (owner_ == Action::kPack) {
+      options_.files.push_back(word);
     } else if (word == "run") {
       SetAction(Action::kRun);
       TakeCommand();
     } else if (word == "ask") {
       SetAction(Action::kAsk);
-      is_asking_ = true;
+      owner_ = Action::kAsk;
     } else if (word == "serve") {
       SetAction(Action::kServe);
+    } else if (word == "pack") {
+      SetAction(Action::kPack);
+      owner_ = Action::kPack;
     } else {
       throw OptionError("unknown word '" + word + "'" + kHint);
     }
@@ -135,8 +145,23 @@ class Parser {
     if (options_.action != Action::kServe && port_) {
       throw OptionError(std::string("--telnet goes with 'serve'") + kHint);
     }
+    if (options_.action == Action::kPack) {
+      CheckPack();
+    }
     if (port_) {
       options_.port = PortNumber(*port_);
+    }
+  }
+
+  void CheckPack() const {
+    if (options_.files.size() != 2) {
+      throw OptionError(std::string("'pack' needs TEXT-FILE and IMAGE-FILE") + kHint);
+    }
+    if (!options_.root.empty()) {
+      throw OptionError(std::string("--root does not go with 'pack'") + kHint);
+    }
+    if (options_.debug) {
+      throw OptionError(std::string("--debug does not go with 'pack'") + kHint);
     }
   }
 
@@ -152,7 +177,7 @@ class Parser {
 
   const std::vector<std::string>& arguments_;
   size_t next_ = 0;
-  bool is_asking_ = false;  // behind "ask"
+  Action owner_ = Action::kTerminal;  // whose words follow, also when --help has won
   std::optional<std::string> port_;
   Options options_;
 };

@@ -8,7 +8,7 @@
 
 namespace sysctx {
 
-enum class Action { kTerminal, kRun, kAsk, kServe, kHelp, kVersion };
+enum class Action { kTerminal, kRun, kAsk, kServe, kPack, kHelp, kVersion };
 
 struct Options {
   Action action = Action::kTerminal;
@@ -17,6 +17,7 @@ struct Options {
   std::string command;                // of kRun
   std::vector<std::string> question;  // of kAsk: the query and its arguments; none: list them
   uint16_t port = 0;                  // of kServe
+  std::vector<std::string> files;     // of kPack: the text and the image
 };
 
 class OptionError : public std::runtime_error {

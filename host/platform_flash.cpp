@@ -1,13 +1,14 @@
-// The flash store: files of the work file system, looked up below the root. And
-// the decompression of what is stored there.
+// The flash store: files below the root. And the decompression of what is stored
+// there.
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <zlib.h>
 
+#include <climits>
 #include <cstdint>
 
 #include "host/descriptor.h"
+#include "host/root.h"
 #include "sys_context/platform.h"
 
 namespace {
@@ -17,7 +18,14 @@ constexpr int32_t kFailure = -1;
 // A file of the flash store, open for reading.
 class FlashFile {
  public:
-  explicit FlashFile(const char* name) : descriptor_(open(name, O_RDONLY | O_CLOEXEC)) {}
+  explicit FlashFile(const char* name) {
+    char buffer[PATH_MAX];
+    if (const char* path = sysctx::MapFlashName(name, buffer, sizeof buffer)) {
+      // openat, since our own open() would map the name once more, were the root itself
+      // below /mnt/work.
+      descriptor_ = sysctx::Descriptor(openat(AT_FDCWD, path, sysctx::kReading));
+    }
+  }
 
   // -1 for what is no file of a size that the interface can tell.
   int32_t Size() const {
@@ -29,15 +37,7 @@ class FlashFile {
   }
 
   bool Read(char* buffer, size_t size) const {
-    size_t done = 0;
-    while (done < size) {
-      const ssize_t got = read(descriptor_.get(), buffer + done, size - done);
-      if (got <= 0) {
-        return false;
-      }
-      done += static_cast<size_t>(got);
-    }
-    return true;
+    return sysctx::ReadUpTo(descriptor_.get(), buffer, size) == static_cast<ssize_t>(size);
   }
 
  private:

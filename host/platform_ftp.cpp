@@ -1,5 +1,6 @@
 // FTP upload of a buffer. User name and password are handed over as options, so
 // that they never stand in a URL or a message.
+#include <arpa/inet.h>
 #include <curl/curl.h>
 
 #include <algorithm>
@@ -32,9 +33,13 @@ size_t ReadSource(char* buffer, size_t size, size_t count, void* user) {
 using Url = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
 using Transfer = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 
-// The address and the file name come from the operator: each is set as the part
-// that it is, so that neither can smuggle in another.
+// The address, four decimal numbers, and the file name come from the operator: each is
+// set as the part that it is, so that neither can smuggle in another.
 Url MakeUrl(const char* address, const char* file) {
+  in_addr unused = {};
+  if (inet_pton(AF_INET, address, &unused) != 1) {
+    return {nullptr, curl_url_cleanup};
+  }
   Url url(curl_url(), curl_url_cleanup);
   const std::string port = std::to_string(sysctx::TheEquipment().ftp_port);
   const std::string path = std::string("/") + file;
@@ -53,6 +58,7 @@ void SetPeer(CURL* curl, CURLU* url, const char* user, const char* password) {
   curl_easy_setopt(curl, CURLOPT_CURLU, url);
   curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "ftp");
   curl_easy_setopt(curl, CURLOPT_PROXY, "");
+  curl_easy_setopt(curl, CURLOPT_IPRESOLVE, CURL_IPRESOLVE_V4);
   curl_easy_setopt(curl, CURLOPT_USERNAME, user);
   curl_easy_setopt(curl, CURLOPT_PASSWORD, password);
 }

@@ -23,6 +23,7 @@ std::vector<Module>& Modules() {
 }
 
 constinit std::atomic<bool> g_delays_are_real = false;
+constinit std::atomic<bool> g_logging_is_on = true;
 
 std::string ModuleName(int32_t id) {
   if (id == kDeviceManager) {
@@ -54,6 +55,10 @@ void SetTaskDelays(bool real) {
   g_delays_are_real = real;
 }
 
+void SetLogging(bool on) {
+  g_logging_is_on = on;
+}
+
 }  // namespace sysctx
 
 extern "C" {
@@ -81,6 +86,9 @@ int32_t setModVersion(int32_t modId, int32_t, const char* version) {
 }
 
 int32_t ulogPrintf(int32_t modId, int32_t level, const char* format, ...) {
+  if (!sysctx::g_logging_is_on) {
+    return 0;
+  }
   va_list arguments;
   va_start(arguments, format);
   const std::string text = sysctx::OneLine(sysctx::FormatList(format, arguments));

@@ -5,10 +5,9 @@ namespace sysctx {
 
 const std::vector<QueryFamily>& AllQueries() {
   static const std::vector<QueryFamily> families = {
-      {"context", ContextQueries()},
-      {"olt", OltQueries()},
-      {"frame", FrameQueries()},
-      {"onu", OnuQueries()},
+      {"context", ContextQueries()},     {"olt", OltQueries()},
+      {"frame", FrameQueries()},         {"onu", OnuQueries()},
+      {"optmodule", OptmoduleQueries()},
   };
   return families;
 }

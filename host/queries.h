@@ -19,5 +19,6 @@ std::vector<Query> ContextQueries();
 std::vector<Query> OltQueries();
 std::vector<Query> FrameQueries();
 std::vector<Query> OnuQueries();
+std::vector<Query> OptmoduleQueries();
 
 }  // namespace sysctx

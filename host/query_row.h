@@ -19,6 +19,7 @@
 
 #include "host/argument_words.h"
 #include "host/console.h"
+#include "host/modules.h"
 #include "host/query.h"
 
 namespace sysctx {
@@ -45,7 +46,9 @@ struct Out : Role {  // a number
 struct InOut : Role {  // a number that the query may change
   using Role::Role;
 };
-struct List : Role {  // an array; the next Out is its count, or an InOut in front of it
+// An array of numbers, or of records that DescribeRecord knows; the next Out is its
+// count, or an InOut in front of it.
+struct List : Role {
   using Role::Role;
 };
 struct TextOut : Role {  // a buffer of kTextSize bytes
@@ -80,7 +83,8 @@ class OutputStorage {
 
   std::optional<T> Get(size_t place) const {
     for (size_t round = 0; round < kFillings.size(); ++round) {
-      if (values_[round][place] != Filling(round)) {
+      const T filling = Filling(round);
+      if (memcmp(&values_[round][place], &filling, sizeof filling) != 0) {
         return values_[0][place];
       }
     }
@@ -153,7 +157,7 @@ class Argument<Out, T*> {
   static constexpr Parameter Describe(Out role) { return {role.name, false}; }
   explicit Argument(Out role) : name_(role.name) {}
   T* Pass(size_t round) { return number_.Start(round); }
-  Output Result() const { return {Output::Kind::kNumber, name_, {number_.Get(0)}, {}}; }
+  Output Result() const { return {Output::Kind::kNumber, name_, {}, number_.Get(0)}; }
 
  private:
   const char* name_;
@@ -168,30 +172,46 @@ class Argument<InOut, T*> {
     numbers_.fill(Argument<In, T>(In(role.name), word).Pass(0));
   }
   T* Pass(size_t round) { return &numbers_[round]; }
-  Output Result() const { return {Output::Kind::kNumber, name_, {numbers_[0]}, {}}; }
+  Output Result() const { return {Output::Kind::kNumber, name_, {}, numbers_[0]}; }
 
  private:
   const char* name_;
   std::array<T, kFillings.size()> numbers_;
 };
 
+template <typename T>
+concept Record = std::is_class_v<T> && !std::is_const_v<T>;
+
 template <Number T>
+std::string DescribeItem(T number) {
+  return std::to_string(number);
+}
+
+template <Record T>
+std::string DescribeItem(const T& record) {
+  return DescribeRecord(record);
+}
+
+template <typename T>
+requires Number<T> || Record<T>
 class Argument<List, T*> {
  public:
   static constexpr Parameter Describe(List role) { return {role.name, false}; }
   explicit Argument(List role) : name_(role.name) {}
-  T* Pass(size_t round) { return numbers_.Start(round); }
+  T* Pass(size_t round) { return items_.Start(round); }
   Output Result() const {
-    Output output = {Output::Kind::kList, name_, {}, {}};
+    Output output = {.kind = Output::Kind::kList, .name = name_};
+    output.between = Number<T> ? " " : "; ";
     for (size_t i = 0; i < kListRoom; ++i) {
-      output.numbers.emplace_back(numbers_.Get(i));
+      const std::optional<T> item = items_.Get(i);
+      output.items.push_back(item ? std::optional(DescribeItem(*item)) : std::nullopt);
     }
     return output;
   }
 
  private:
   const char* name_;
-  OutputStorage<T> numbers_ = OutputStorage<T>(kListRoom);
+  OutputStorage<T> items_ = OutputStorage<T>(kListRoom);
 };
 
 template <>
@@ -201,15 +221,15 @@ class Argument<TextOut, char*> {
   explicit Argument(TextOut role) : name_(role.name) {}
   char* Pass(size_t round) { return text_.Start(round); }
   Output Result() const {
-    Output output = {Output::Kind::kText, name_, {}, {}};
+    std::optional<std::string> text;
     for (size_t i = 0; i < kTextSize && text_.Get(i); ++i) {
-      output.text = output.text.value_or("");
+      text = text.value_or("");
       if (text_.Get(i) == '\0') {
         break;
       }
-      *output.text += *text_.Get(i);
+      *text += *text_.Get(i);
     }
-    return output;
+    return {Output::Kind::kText, name_, {text}};
   }
 
  private:
@@ -224,11 +244,11 @@ class Argument<RecordOut, T**> {
   explicit Argument(RecordOut role) : name_(role.name) {}
   T** Pass(size_t round) { return record_.Start(round); }
   Output Result() const {
-    Output output = {Output::Kind::kText, name_, {}, {}};
+    std::optional<std::string> text;
     if (const std::optional<T*> record = record_.Get(0)) {
-      output.text = *record == nullptr ? "(null)" : DescribeRecord(**record);
+      text = *record == nullptr ? "(null)" : DescribeRecord(**record);
     }
-    return output;
+    return {Output::Kind::kText, name_, {text}};
   }
 
  private:
@@ -245,7 +265,7 @@ class Argument<CopyOut, T**> {
   T** Pass(size_t round) { return copies_.Pass(round); }
   Output Result() const { return copies_.Result(); }
   void Release() {
-    if (Result().text) {
+    if (Result().items.at(0)) {
       for (size_t round = 0; round < kFillings.size(); ++round) {
         free(*Pass(round));
       }
@@ -285,7 +305,9 @@ Answer Ask(const char* label, Function function, std::tuple<Arguments...> argume
   Answer answer;
   answer.label = label;
   answer.console = CaptureConsole([&] { answer.value = call(0); });
+  SetLogging(false);
   CaptureConsole([&] { call(1); });
+  SetLogging(true);
   const auto add = [&](auto& argument) {
     if constexpr (requires { argument.Result(); }) {
       answer.outputs.push_back(argument.Result());

@@ -39,6 +39,18 @@ void CreateMemoryFolder(const char* path) {
   mkdir(folder, 0755);
 }
 
+// The root, `folder` and `path`, one behind the other; nullptr when they do not fit.
+const char* BelowRoot(const char* folder, const char* path, char* buffer, size_t size) {
+  const int length = snprintf(buffer, size, "%s%s%s", g_root, folder, path);
+  return length >= 0 && static_cast<size_t>(length) < size ? buffer : nullptr;
+}
+
+// Also what cannot be looked at is there.
+bool IsThere(const char* path) {
+  struct stat status = {};
+  return lstat(path, &status) == 0 || errno != ENOENT;
+}
+
 template <typename Function>
 Function* NextInLine(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -53,6 +65,10 @@ void SetRoot(const std::string& folder) {
   memcpy(g_root, folder.c_str(), folder.size() + 1);
 }
 
+std::string Root() {
+  return g_root;
+}
+
 const char* MapPath(const char* path, char* buffer, size_t size) {
   if (g_root[0] == '\0' || path == nullptr) {
     return path;
@@ -60,8 +76,20 @@ const char* MapPath(const char* path, char* buffer, size_t size) {
   if (!StartsWith(path, kWorkFiles) && !StartsWith(path, kMemoryFiles)) {
     return path;
   }
-  const int length = snprintf(buffer, size, "%s%s", g_root, path);
-  return length >= 0 && static_cast<size_t>(length) < size ? buffer : nullptr;
+  return BelowRoot("", path, buffer, size);
+}
+
+const char* MapFlashName(const char* name, char* buffer, size_t size) {
+  return HasFlashCopy(name) ? BelowRoot("/flash", name, buffer, size) : MapPath(name, buffer, size);
+}
+
+bool HasFlashCopy(const char* name) {
+  if (g_root[0] == '\0' || name == nullptr || !StartsWith(name, kWorkFiles)) {
+    return false;
+  }
+  char buffer[PATH_MAX];
+  const char* copy = BelowRoot("/flash", name, buffer, sizeof buffer);
+  return copy == nullptr || IsThere(copy);
 }
 
 }  // namespace sysctx

@@ -179,7 +179,24 @@ int Session::OnCommand(cli_def* cli, const char*, char**, int) {
   const cli_pipeline_stage* stage = cli->pipeline->current_stage;
   const std::vector<char*> arguments(stage->words + stage->first_optarg,
                                      stage->words + stage->num_words);
-  return SessionOf(cli)->Call(stage->command, arguments);
+  Session* const session = SessionOf(cli);
+  session->ForgetPassword();
+  session->is_calling_ = true;
+  const int result = session->Call(stage->command, arguments);
+  session->is_calling_ = false;
+  return result;
+}
+
+// libcli remembers a line before it runs it or complains about it.
+void Session::ForgetPassword() {
+  char** last = nullptr;
+  for (char*& entry : cli_->history) {
+    last = entry == nullptr ? last : &entry;
+  }
+  if (last != nullptr && MayHoldPassword(cli_.get(), *last)) {
+    explicit_bzero(*last, strlen(*last));
+    free(std::exchange(*last, nullptr));
+  }
 }
 
 int Session::Call(cli_command* node, std::vector<char*> arguments) {
@@ -260,6 +277,9 @@ void Session::OnPrint(cli_def* cli, const char* text) {
 }
 
 void Session::Print(const char* text) {
+  if (!is_calling_) {
+    ForgetPassword();  // a line that is not understood is seen only through its complaint
+  }
   std::string line = text;
   if (line.starts_with("Invalid command") && cli_->pipeline != nullptr) {
     const std::string better = DescribeAmbiguity(cli_.get(), cli_->pipeline->cmdline);
@@ -299,6 +319,9 @@ void Session::Serve(int socket) {
 
 // libcli keeps the history of telnet sessions itself.
 void Session::AddHistory(const std::string& line) {
+  if (MayHoldPassword(cli_.get(), line)) {
+    return;
+  }
   char** const entries = cli_->history;
   size_t used = 0;
   while (used < MAX_HISTORY && entries[used] != nullptr) {

@@ -42,6 +42,8 @@ class Session {
   void ShowHelp();
 
   const cli_def* cli() const { return cli_.get(); }
+
+  // Remembers a line, unless it may hold a password.
   void AddHistory(const std::string& line);
 
  private:
@@ -63,12 +65,14 @@ class Session {
   void Print(const char* text);
   void PrintLines();
   void ShowChoices(const std::string& line);
+  void ForgetPassword();
 
   Cli cli_;
   std::map<const cli_command*, CommandRecord*> records_;
   std::map<const cli_command*, Builtin> builtins_;
   std::map<const cli_command*, Filter> filters_;
   std::vector<cli_optarg*> later_arguments_;  // all but the first of each command
+  bool is_calling_ = false;                   // what is printed is a command's
   bool keep_messages_ = false;                // the shell's complaints go to the outcome
   Outcome outcome_;
   std::string unprinted_;  // the unfinished line of filtered output

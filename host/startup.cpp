@@ -21,6 +21,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 #include "sys_context/platform.h"
 
 namespace sysctx {
@@ -28,8 +29,6 @@ namespace {
 
 constexpr const char* kDefinitionFile = "/mnt/work/device_definition.ini";
 constexpr const char* kOpticalFile = "/mnt/work/optmodule_definition.ini";
-
-std::string g_root;
 
 std::string AbsoluteFolder(const std::string& folder) {
   char path[PATH_MAX];
@@ -43,9 +42,25 @@ std::string AbsoluteFolder(const std::string& folder) {
   return path;
 }
 
-std::string DescribeFile(const char* name) {
+std::string DescribeWorkFile(const std::string& path) {
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode)
+             ? std::to_string(status.st_size) + " bytes"
+             : "missing";
+}
+
+// A copy that the flash store has of its own.
+std::string DescribeFlashCopy(const char* name) {
   const int32_t size = flash_sizeof(name);
-  return size < 0 ? Format("  %s: missing\n", name) : Format("  %s: %d bytes\n", name, size);
+  return size < 0 ? "cannot be read" : std::to_string(size) + " bytes";
+}
+
+std::string DescribeFile(const char* name) {
+  std::string text = DescribeWorkFile(Root() + name);
+  if (HasFlashCopy(name)) {
+    text += "; in flash: " + DescribeFlashCopy(name);
+  }
+  return Format("  %s: %s\n", name, text.c_str());
 }
 
 std::string DescribeEquipment() {
@@ -60,7 +75,8 @@ std::string DescribeTables() {
       "loaded: %u versions, %u modules, %u system functions\n"
       "loaded: %u OLT port types, %u main boards, %u service boards\n"
       "loaded: frame %s, %u real slots, %u logic ports, %u type-2 logic ports\n"
-      "loaded: ONU port types: %u PON, %u LAN, %u POTS, %u special; %u ONU types\n",
+      "loaded: ONU port types: %u PON, %u LAN, %u POTS, %u special; %u ONU types\n"
+      "loaded: %u optical modules\n",
       gstVersionInformation.ulSupportedSoftVerNum, gstModuleTypeList.ulModuleTypeNum,
       gstSysSupportFuncType.ulSupportedSysFunctionTypeNum,
       gstSupportedOltPortType.ulSupportedOltPortTypeNum,
@@ -72,7 +88,7 @@ std::string DescribeTables() {
       gstSupportedOnuLanType.ulSupportedOnuLanTypeNum,
       gstSupportedOnuPotsType.ulSupportedOnuPotsTypeNum,
       gstSupportedOnuSpecialPortType.ulSupportedOnuSpecialPortTypeNum,
-      gstSupportedOnuType.ulSupportedOnuTypeNum);
+      gstSupportedOnuType.ulSupportedOnuTypeNum, uint32_t{g_optmdule_infolist.listnum});
 }
 
 std::string DescribeModules() {
@@ -100,9 +116,9 @@ std::string DescribeFailures(const StartUp& start_up) {
 }  // namespace
 
 void OpenRoot(const std::string& folder) {
-  g_root = AbsoluteFolder(folder);
-  SetEquipment(ReadEquipment(g_root + "/equipment.toml"));
-  SetRoot(g_root);
+  const std::string root = AbsoluteFolder(folder);
+  SetEquipment(ReadEquipment(root + "/equipment.toml"));
+  SetRoot(root);
 }
 
 StartUp StartLibrary() {
@@ -125,7 +141,7 @@ std::string DescribeConsole(const std::string& console) {
 }
 
 std::string DescribeStartUp(const StartUp& start_up) {
-  return Format("sysctx %s, simulated control card\nroot: %s\n", SYSCTX_VERSION, g_root.c_str()) +
+  return Format("sysctx %s, simulated control card\nroot: %s\n", SYSCTX_VERSION, Root().c_str()) +
          DescribeEquipment() + DescribeFile(kDefinitionFile) + DescribeFile(kOpticalFile) +
          DescribeConsole(start_up.console) + DescribeTables() + DescribeModules() +
          DescribeFailures(start_up);

@@ -146,8 +146,10 @@ int RunTerminal(Session& session) {
     if (line.empty()) {
       continue;
     }
-    HistEvent event;
-    history(lines.get(), &event, H_ENTER, line.c_str());
+    if (!MayHoldPassword(session.cli(), line)) {
+      HistEvent event;
+      history(lines.get(), &event, H_ENTER, line.c_str());
+    }
     if (RunLine(session, line, stdout).quit) {
       return EXIT_SUCCESS;
     }

@@ -4,7 +4,9 @@
 
 #include <strings.h>
 
+#include <algorithm>
 #include <cctype>
+#include <cstring>
 
 #include "host/format.h"
 
@@ -131,6 +133,20 @@ bool CanEnd(const cli_command* command, size_t arguments) {
   return runs && (arguments > 0 || ArgumentNumber(command, 0) == nullptr);
 }
 
+bool TakesPassword(const cli_command* command) {
+  for (const cli_optarg* o = command->optargs; o != nullptr; o = o->next) {
+    if (strcasestr(o->name, "password") != nullptr) {
+      return true;
+    }
+  }
+  for (const cli_command* c = command->children; c != nullptr; c = c->next) {
+    if (TakesPassword(c)) {
+      return true;
+    }
+  }
+  return false;
+}
+
 void AddArgument(const cli_command* command, size_t number, Choices& choices) {
   if (const cli_optarg* argument = ArgumentNumber(command, number)) {
     choices.list.push_back({Format("<%s>", argument->name), Text(argument->help)});
@@ -192,6 +208,21 @@ std::string DescribeAmbiguity(const cli_def* cli, std::string_view text) {
     return message;
   }
   return "";
+}
+
+bool MayHoldPassword(const cli_def* cli, std::string_view text) {
+  const Line line(text);
+  for (const Words& stage : line.stages) {
+    if (stage.empty()) {
+      continue;
+    }
+    const auto commands = Matches(cli->commands, CLI_REGULAR_COMMAND, stage.front());
+    const bool is_unknown = commands.empty() && &stage == &line.stages.front();
+    if (is_unknown || std::ranges::any_of(commands, TakesPassword)) {
+      return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace sysctx

@@ -1,5 +1,6 @@
 // Questions about a session's command tree: what may come next in a line (for
-// Tab and "?"), and which word of a line is ambiguous.
+// Tab and "?"), which word of a line is ambiguous, and whether a line may hold a
+// password.
 #pragma once
 
 #include <libcli.h>
@@ -31,5 +32,9 @@ std::string DescribeChoices(const Choices& choices);
 // "Ambiguous command ..." when a word of the line fits several commands, else
 // empty.
 std::string DescribeAmbiguity(const cli_def* cli, std::string_view line);
+
+// Whether the line is not to be remembered: it begins with the word of a command that
+// takes a password, maybe abbreviated, or with one that may be such a word mistyped.
+bool MayHoldPassword(const cli_def* cli, std::string_view line);
 
 }  // namespace sysctx

@@ -9,7 +9,7 @@ namespace sysctx {
 namespace {
 
 using Kind = Output::Kind;
-using Numbers = std::vector<std::optional<int64_t>>;
+using Items = std::vector<std::optional<std::string>>;
 constexpr std::nullopt_t kNone = std::nullopt;
 
 struct Shown {
@@ -27,11 +27,19 @@ TEST_P(AnswerText, IsOneLineForEachItem) {
 }
 
 Output Count(std::optional<int64_t> number) {
-  return {Kind::kNumber, "count", {number}, kNone};
+  return {Kind::kNumber, "count", {}, number};
 }
 
-Output TheList(const Numbers& numbers) {
-  return {Kind::kList, "list", numbers, kNone};
+Output TheText(const std::optional<std::string>& text) {
+  return {Kind::kText, "text", {text}};
+}
+
+Output TheList(const Items& numbers) {
+  return {Kind::kList, "list", numbers};
+}
+
+Output TheRecords(const Items& records) {
+  return {Kind::kList, "records", records, kNone, "; "};
 }
 
 const Shown kShown[] = {
@@ -40,41 +48,52 @@ const Shown kShown[] = {
     {"LargestNumber", {Count(4294967295)}, "count = 4294967295\n"},
     {"NegativeNumber", {Count(-7)}, "count = -7\n"},
     {"NumberUntouched", {Count(kNone)}, "count = (untouched)\n"},
-    {"Text", {{Kind::kText, "text", {}, "KT 1"}}, "text = KT 1\n"},
-    {"EmptyText", {{Kind::kText, "text", {}, ""}}, "text =\n"},
-    {"TextUntouched", {{Kind::kText, "text", {}, kNone}}, "text = (untouched)\n"},
-    {"List", {TheList({4, 5, 6}), Count(2)}, "list = 4 5\ncount = 2\n"},
-    {"ListOfAll", {TheList({4, 5, 6}), Count(3)}, "list = 4 5 6\ncount = 3\n"},
-    {"CountTooLarge", {TheList({4, 5}), Count(4294967295)}, "list = 4 5\ncount = 4294967295\n"},
-    {"CountNegative", {TheList({4, 5}), Count(-1)}, "list =\ncount = -1\n"},
+    {"Text", {TheText("KT 1")}, "text = KT 1\n"},
+    {"EmptyText", {TheText("")}, "text =\n"},
+    {"TextUntouched", {TheText(kNone)}, "text = (untouched)\n"},
+    {"List", {TheList({"4", "5", "6"}), Count(2)}, "list = 4 5\ncount = 2\n"},
+    {"ListOfAll", {TheList({"4", "5", "6"}), Count(3)}, "list = 4 5 6\ncount = 3\n"},
+    {"CountTooLarge", {TheList({"4", "5"}), Count(4294967295)}, "list = 4 5\ncount = 4294967295\n"},
+    {"CountNegative", {TheList({"4", "5"}), Count(-1)}, "list =\ncount = -1\n"},
     {"ListEmpty", {TheList({kNone, kNone}), Count(0)}, "list =\ncount = 0\n"},
-    {"ListEmptyButWritten", {TheList({4, kNone}), Count(0)}, "list =\ncount = 0\n"},
+    {"ListEmptyButWritten", {TheList({"4", kNone}), Count(0)}, "list =\ncount = 0\n"},
     {"PlacesLeftAlone",
-     {TheList({4, kNone, 6, kNone}), Count(4)},
+     {TheList({"4", kNone, "6", kNone}), Count(4)},
      "list = 4 (untouched) 6 (untouched)\ncount = 4\n"},
     {"ListUntouched", {TheList({kNone, kNone}), Count(2)}, "list = (untouched)\ncount = 2\n"},
     {"AllUntouched",
      {TheList({kNone, kNone}), Count(kNone)},
      "list = (untouched)\ncount = (untouched)\n"},
     {"CountUntouched",
-     {TheList({4, kNone, 6, kNone}), Count(kNone)},
+     {TheList({"4", kNone, "6", kNone}), Count(kNone)},
      "list = 4 (untouched) 6\ncount = (untouched)\n"},
     {"TwoLists",
-     {TheList({4, 5}), Count(1), TheList({6, 7}), Count(2)},
+     {TheList({"4", "5"}), Count(1), TheList({"6", "7"}), Count(2)},
      "list = 4\ncount = 1\nlist = 6 7\ncount = 2\n"},
-    {"CountInFront", {Count(2), TheList({4, 5, 6})}, "count = 2\nlist = 4 5\n"},
+    {"CountInFront", {Count(2), TheList({"4", "5", "6"})}, "count = 2\nlist = 4 5\n"},
     {"NearestCountInFront",
-     {Count(3), Count(1), TheList({4, 5, 6})},
+     {Count(3), Count(1), TheList({"4", "5", "6"})},
      "count = 3\ncount = 1\nlist = 4\n"},
     {"CountInFrontUntouched",
-     {Count(kNone), TheList({4, 5, kNone})},
+     {Count(kNone), TheList({"4", "5", kNone})},
      "count = (untouched)\nlist = 4 5\n"},
     {"CountBehindBeforeTheOneInFront",
-     {Count(3), TheList({4, 5, 6}), Count(2)},
+     {Count(3), TheList({"4", "5", "6"}), Count(2)},
      "count = 3\nlist = 4 5\ncount = 2\n"},
-    {"NoCount", {TheList({4, 5, kNone})}, "list = 4 5\n"},
+    {"NoCount", {TheList({"4", "5", kNone})}, "list = 4 5\n"},
+    {"Records",
+     {Count(2), TheRecords({"a 1, b 2", "a 3", "a 4"})},
+     "count = 2\nrecords = a 1, b 2; a 3\n"},
+    {"OneRecord", {Count(1), TheRecords({"a 1", kNone})}, "count = 1\nrecords = a 1\n"},
+    {"NoRecord", {Count(0), TheRecords({"a 1", kNone})}, "count = 0\nrecords =\n"},
+    {"RecordLeftAlone",
+     {Count(3), TheRecords({"a 1", kNone, "a 3"})},
+     "count = 3\nrecords = a 1; (untouched); a 3\n"},
+    {"RecordsUntouched",
+     {Count(2), TheRecords({kNone, kNone})},
+     "count = 2\nrecords = (untouched)\n"},
     {"TextInFrontOfTheCount",
-     {TheList({4, 5}), {Kind::kText, "text", {}, "t"}, Count(1)},
+     {TheList({"4", "5"}), TheText("t"), Count(1)},
      "list = 4\ntext = t\ncount = 1\n"},
 };
 

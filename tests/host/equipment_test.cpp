@@ -7,11 +7,12 @@
 #include <fstream>
 #include <ostream>
 
-#include "host/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace sysctx {
 namespace {
 
+using test::TemporaryFolder;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;

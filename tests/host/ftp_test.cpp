@@ -1,47 +1,55 @@
 // Uploads to a real FTP server, which runs as a child process.
 #include <arpa/inet.h>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <string>
 
 #include "host/descriptor.h"
 #include "host/equipment.h"
-#include "host/temporary_folder.h"
+#include "support/temporary_folder.h"
 #include "sys_context/platform.h"
 
 namespace sysctx {
 namespace {
 
+using test::ReadWhole;
+using test::TemporaryFolder;
 using testing::HasSubstr;
 using testing::Not;
 
 constexpr const char* kUser = "operator";
 constexpr const char* kPassword = "s3cret:word@with/signs";
+constexpr int kPatienceMilliseconds = 60000;
 
 class FtpServer {
  public:
-  explicit FtpServer(const std::string& folder) {
+  explicit FtpServer(const std::string& folder, const char* mode = "full") {
     int ends[2] = {-1, -1};
-    if (pipe(ends) != 0) {
+    if (pipe2(ends, O_CLOEXEC) != 0) {
       abort();
     }
     process_ = fork();
     if (process_ == 0) {
       dup2(ends[1], STDOUT_FILENO);
-      execl(SYSCTX_PYTHON, SYSCTX_PYTHON, FTP_SERVER, folder.c_str(), kUser, kPassword, nullptr);
+      prctl(PR_SET_PDEATHSIG, SIGTERM);  // a test that is killed leaves no server
+      execl(SYSCTX_PYTHON, SYSCTX_PYTHON, FTP_SERVER, folder.c_str(), kUser, kPassword, mode,
+            nullptr);
       _exit(127);
     }
     close(ends[1]);
     FILE* output = fdopen(ends[0], "r");
-    if (fscanf(output, "%hu", &port_) != 1) {
+    pollfd waiting = {ends[0], POLLIN, 0};  // for the one line that the server writes
+    if (poll(&waiting, 1, kPatienceMilliseconds) != 1 || fscanf(output, "%hu", &port_) != 1) {
       ADD_FAILURE() << "the FTP server did not start";
     }
     fclose(output);
@@ -60,16 +68,19 @@ class FtpServer {
   uint16_t port_ = 0;
 };
 
-// A port on which connections are accepted by the system, but nobody speaks.
+// A port on which nobody speaks: connections are refused, or accepted by the system when
+// it listens.
 class SilentPort {
  public:
-  SilentPort() : socket_(socket(AF_INET, SOCK_STREAM, 0)) {
+  explicit SilentPort(bool listens) : socket_(socket(AF_INET, SOCK_STREAM, 0)) {
     sockaddr_in address = {};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address;
     bind(socket_.get(), reinterpret_cast<sockaddr*>(&address), size);
-    listen(socket_.get(), 4);
+    if (listens) {
+      listen(socket_.get(), 4);
+    }
     getsockname(socket_.get(), reinterpret_cast<sockaddr*>(&address), &size);
     port_ = ntohs(address.sin_port);
   }
@@ -90,7 +101,7 @@ class Ftp : public testing::Test {
                  const std::string& content) {
     Equipment facts;
     facts.ftp_port = port;
-    facts.ftp_timeout_seconds = 2;
+    facts.ftp_timeout_seconds = timeout_seconds_;
     SetEquipment(facts);
     testing::internal::CaptureStderr();
     const int32_t result = upload_buf_by_ftp("127.0.0.1", user, password, file, content.data(),
@@ -100,6 +111,7 @@ class Ftp : public testing::Test {
   }
 
   TemporaryFolder folder_;
+  int timeout_seconds_ = 60;
   std::string said_;
 };
 
@@ -134,6 +146,36 @@ TEST_F(Ftp, FileNameIsTakenAsItIs) {
   EXPECT_EQ(ReadWhole(folder_.Path("a b%20#c?d;type=a")), "text");
 }
 
+// The server's file is there until its new bytes come.
+TEST_F(Ftp, EarlyFailuresLeaveTheServersFile) {
+  const FtpServer server(folder_.path());
+  const std::string file = folder_.Write("copy.ini", "older");
+  EXPECT_EQ(Upload(server.port(), kUser, "wr0ng:word", "copy.ini", "text"), -1);
+  EXPECT_EQ(Upload(server.port(), "nobody", kPassword, "copy.ini", "text"), -1);
+  EXPECT_EQ(ReadWhole(file), "older");
+}
+
+TEST_F(Ftp, ServerWithoutDataConnectionKeepsItsFile) {
+  const FtpServer server(folder_.path(), "no-data");
+  const std::string file = folder_.Write("copy.ini", "older");
+  EXPECT_EQ(Upload(server.port(), kUser, kPassword, "copy.ini", "text"), -1);
+  EXPECT_EQ(ReadWhole(file), "older");
+}
+
+// Passive mode: the server refuses to come to the card.
+TEST_F(Ftp, DataConnectionIsTheCards) {
+  const FtpServer server(folder_.path(), "passive");
+  EXPECT_EQ(Upload(server.port(), kUser, kPassword, "copy.ini", "text"), 0);
+  EXPECT_EQ(ReadWhole(folder_.Path("copy.ini")), "text");
+}
+
+// An older server knows only the older of the two passive modes.
+TEST_F(Ftp, ServerWithoutExtendedPassiveMode) {
+  const FtpServer server(folder_.path(), "no-extended");
+  EXPECT_EQ(Upload(server.port(), kUser, kPassword, "copy.ini", "text"), 0);
+  EXPECT_EQ(ReadWhole(folder_.Path("copy.ini")), "text");
+}
+
 TEST_F(Ftp, WrongPasswordFailsAndIsNotTold) {
   const FtpServer server(folder_.path());
   EXPECT_EQ(Upload(server.port(), kUser, "wr0ng:word", "copy.ini", "text"), -1);
@@ -154,25 +196,34 @@ TEST_F(Ftp, MissingFolderFails) {
 }
 
 TEST_F(Ftp, ServerThatIsDownFails) {
-  uint16_t port = 0;
-  { port = SilentPort().port(); }
-  EXPECT_EQ(Upload(port, kUser, kPassword, "copy.ini", "text"), -1);
+  const SilentPort refusing(false);
+  EXPECT_EQ(Upload(refusing.port(), kUser, kPassword, "copy.ini", "text"), -1);
   EXPECT_THAT(said_, testing::StartsWith("sysctx: FTP upload: "));
   EXPECT_THAT(said_, Not(HasSubstr("s3cret")));
 }
 
 TEST_F(Ftp, SilentServerFailsAfterTheTimeout) {
-  const SilentPort silent;
-  const time_t before = time(nullptr);
+  const SilentPort silent(true);
+  timeout_seconds_ = 1;
   EXPECT_EQ(Upload(silent.port(), kUser, kPassword, "copy.ini", "text"), -1);
-  EXPECT_LE(time(nullptr) - before, 10);
+  EXPECT_THAT(said_, HasSubstr("imeout"));
 }
 
 TEST_F(Ftp, AddressThatIsNoneFails) {
-  SetEquipment({});
-  for (const char* address : {"", "a b", "127.0.0.1/x", "user@127.0.0.1", "127.0.0.1:99"}) {
+  const FtpServer server(folder_.path());
+  Equipment facts;
+  facts.ftp_port = server.port();
+  SetEquipment(facts);
+  for (const char* address :
+       {"", "a b", "127.0.0.1/x", "user@127.0.0.1", "127.0.0.1:99", "localhost", "::1", "[::1]",
+        "::ffff:127.0.0.1", "127.1", "2130706433", "0x7f.0.0.1", "127.0.0.01", "127.0.0.1.",
+        "127.0.0.1 ", " 127.0.0.1", "127.0.0.256", "1.2.3.4.5"}) {
+    testing::internal::CaptureStderr();
     EXPECT_EQ(upload_buf_by_ftp(address, kUser, kPassword, "f", "text", 4), -1) << address;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "sysctx: FTP upload: address or file name cannot be used\n");
   }
+  EXPECT_NE(access(folder_.Path("f").c_str(), F_OK), 0);
 }
 
 TEST_F(Ftp, NullArgumentsFail) {

@@ -48,6 +48,8 @@ const Line kLines[] = {
     {"HelpWins", {"--help", "run", "x"}, Action::kHelp, "", "x", 0},
     {"HelpBehindAsk", {"ask", "--help"}, Action::kHelp, "", "", 0},
     {"HelpWinsOverAsk", {"--help", "ask", "q"}, Action::kHelp, "", "", 0},
+    {"HelpBehindPack", {"pack", "--help"}, Action::kHelp, "", "", 0},
+    {"HelpWinsOverPack", {"--help", "pack", "a"}, Action::kHelp, "", "", 0},
     {"Version", {"--version"}, Action::kVersion, "", "", 0},
 };
 
@@ -90,7 +92,7 @@ const Question kQuestions[] = {
 INSTANTIATE_TEST_SUITE_P(All, AskLine, testing::ValuesIn(kQuestions),
                          testing::PrintToStringParamName());
 
-TEST(DebugOption, GoesWithAnyAction) {
+TEST(DebugOption, GoesWithWhatStartsACard) {
   for (const Arguments& arguments : {Arguments{"--debug"}, Arguments{"--debug", "run", "x"},
                                      Arguments{"serve", "--telnet", "0", "--debug"}}) {
     EXPECT_TRUE(ParseOptions(arguments).debug);
@@ -99,6 +101,30 @@ TEST(DebugOption, GoesWithAnyAction) {
     EXPECT_FALSE(ParseOptions(arguments).debug);
   }
 }
+
+struct Packing {
+  const char* name;
+  Arguments arguments;
+  Arguments files;
+  friend std::ostream& operator<<(std::ostream& out, const Packing& row) { return out << row.name; }
+};
+
+class PackLine : public testing::TestWithParam<Packing> {};
+
+TEST_P(PackLine, IsUnderstood) {
+  const Options options = ParseOptions(GetParam().arguments);
+  EXPECT_EQ(options.action, Action::kPack);
+  EXPECT_EQ(options.files, GetParam().files);
+}
+
+const Packing kPackings[] = {
+    {"Files", {"pack", "a", "b"}, {"a", "b"}},
+    {"FilesLikeWords", {"pack", "run", "pack"}, {"run", "pack"}},
+    {"BlanksAndPaths", {"pack", "./-a b", ""}, {"./-a b", ""}},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, PackLine, testing::ValuesIn(kPackings),
+                         testing::PrintToStringParamName());
 
 struct BadLine {
   const char* name;
@@ -134,6 +160,24 @@ const BadLine kBadLines[] = {
      "--telnet goes with 'serve' (see sysctx --help)"},
     {"UnknownOptionBehindAsk", {"ask", "-x", "q"}, "unknown option '-x' (see sysctx --help)"},
     {"DebugWithValue", {"--debug=1"}, "unknown option '--debug=1' (see sysctx --help)"},
+    {"PackAlone", {"pack"}, "'pack' needs TEXT-FILE and IMAGE-FILE (see sysctx --help)"},
+    {"PackOneFile", {"pack", "a"}, "'pack' needs TEXT-FILE and IMAGE-FILE (see sysctx --help)"},
+    {"PackThreeFiles",
+     {"pack", "a", "b", "c"},
+     "'pack' needs TEXT-FILE and IMAGE-FILE (see sysctx --help)"},
+    {"PackOption", {"pack", "a", "-b"}, "unknown option '-b' (see sysctx --help)"},
+    {"PackWithRoot",
+     {"--root", "d", "pack", "a", "b"},
+     "--root does not go with 'pack' (see sysctx --help)"},
+    {"PackWithDebug",
+     {"--debug", "pack", "a", "b"},
+     "--debug does not go with 'pack' (see sysctx --help)"},
+    {"PackWithDebugBehind",
+     {"pack", "a", "--debug", "b"},
+     "--debug does not go with 'pack' (see sysctx --help)"},
+    {"PackWithTelnet",
+     {"pack", "a", "b", "--telnet", "23"},
+     "--telnet goes with 'serve' (see sysctx --help)"},
     {"PortName",
      {"serve", "--telnet", "telnet"},
      "bad port 'telnet': a number from 0 to 65535 is wanted"},

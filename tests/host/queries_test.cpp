@@ -12,11 +12,12 @@
 #include <set>
 #include <sstream>
 
-#include "host/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace sysctx {
 namespace {
 
+using test::ReadWhole;
 using testing::IsEmpty;
 
 using Names = std::set<std::string>;
@@ -35,7 +36,10 @@ const Group kNoQueries[] = {
       "fgetline", "ltrimstr", "rtrimstr", "split_key_val"}},
     {"start-up, hooks and placeholders",
      {"context_cmd_module_init", "context_module_init", "ddCmdInit", "ddInit", "ddParseContextFile",
-      "ddReadContextFile", "dosFsVolumeBioBufferSize"}},
+      "ddReadContextFile", "dosFsVolumeBioBufferSize", "init_optmodule_info",
+      "install_gepon_optmodule_inforead_element", "optmodule_defines_fileparse"}},
+    {"the definition file's copy in flash",
+     {"ddReadContextFileToBuf", "ddUploadContextFile", "read_compress_context_file"}},
     {"loaders",
      {"ddReadAllModuleInformation",
       "ddReadAllSupportedBoardInformation",
@@ -64,29 +68,34 @@ const Group kNoQueries[] = {
       "ddReadSwitchChipLogicPortToSlotPort",
       "ddReadSysSupportFuncInformation",
       "ddReadVersionInformation",
+      "optmodule_infolist_read",
+      "optmodule_oneinfo_read",
+      "optmodule_onuthres_read",
       "read_balance_switch_logicport_to_portinfo"}},
     {"change records or tables",
      {"ddAddSupportedLanToOnuObj", "ddAddSupportedPonToOnuObj", "ddAddSupportedPotsToOnuObj",
       "ddAddSupportedServePortToBoardObj", "ddAddSupportedSpecialPortToBoardObj",
       "ddAddSupportedSpecialPortToOnuObj", "ddEmptyFrameInformation",
       "ddFindSupportedBoardMaxPonNum", "ddFindSupportedOnuMaxLanNum", "ddFreeOneBoardAllObj",
-      "ddFreeOneOnuAllObj"}},
+      "ddFreeOneOnuAllObj", "optmodule_file_free", "optmodule_oneobj_free"}},
     {"handlers of commands",
      {"ddShowAllBoardInfo_Func", "ddShowAllDevice_Func", "ddShowAllModuleInfo_Func",
-      "ddShowAllSupportedOnuType_Func", "ddShowAllSupportedOnu_Func", "ddShowFrameInfo_Func",
-      "ddShowMainBoardInfo_Func", "ddShowOltPortInfo_Func", "ddShowOneSupportedOnuInfo_Func",
-      "ddShowOnuLanInfo_Func", "ddShowOnuPonInfo_Func", "ddShowOnuPotsInfo_Func",
-      "ddShowOnuSpecialPortInfo_Func", "ddShowSysSupportFuncInfo_Func", "ddShowVersionInfo_Func"}},
+      "ddShowAllSupportedOnuType_Func", "ddShowAllSupportedOnu_Func", "ddShowContextFile_Func",
+      "ddShowFrameInfo_Func", "ddShowMainBoardInfo_Func", "ddShowOltPortInfo_Func",
+      "ddShowOneSupportedOnuInfo_Func", "ddShowOnuLanInfo_Func", "ddShowOnuPonInfo_Func",
+      "ddShowOnuPotsInfo_Func", "ddShowOnuSpecialPortInfo_Func", "ddShowSysSupportFuncInfo_Func",
+      "ddShowVersionInfo_Func", "ddUploadContextFile_Func", "show_optmodule_info_func"}},
+    {"prints memory", {"ddPrintBuf"}},
     {"printers for a terminal",
      {"ddPrintAllContextInformation", "ddPrintAllModuleInformation",
       "ddPrintAllSupportedBoardInfomation", "ddPrintAllSupportedMainBoardInformation",
       "ddPrintAllSupportedOltPortInfomation", "ddPrintAllSupportedOnuLanInfomation",
       "ddPrintAllSupportedOnuPonInfomation", "ddPrintAllSupportedOnuPotsInfomation",
       "ddPrintAllSupportedOnuSpecialPortInfomation", "ddPrintAllSupportedOnuTypeBaseInfomation",
-      "ddPrintAllSupportedOnuTypeInfomation", "ddPrintFrameInfomation",
+      "ddPrintAllSupportedOnuTypeInfomation", "ddPrintContextFile", "ddPrintFrameInfomation",
       "ddPrintOneSupportedBoardInfomation", "ddPrintOneSupportedOnuInfomation",
       "ddPrintSlotClassInformation", "ddPrintSysSupportFuncInformation",
-      "ddPrintVersionInformation"}},
+      "ddPrintVersionInformation", "show_optmodule_fileinfo_byindex"}},
 };
 
 Names ExportedFunctions() {

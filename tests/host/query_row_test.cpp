@@ -4,11 +4,14 @@
 
 #include <gmock/gmock.h>
 
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include "sys_context/platform.h"
 
 namespace sysctx {
 namespace {
@@ -203,6 +206,26 @@ TEST(Outputs, MayBeInputs) {
               ThrowsMessage<BadArgument>("bad count '65536': a number from 0 to 65535 is wanted"));
 }
 
+// Paths of a module; the last one is left alone.
+int32_t GivePaths(uint16_t* count, OptModuleThreshold* paths) {
+  if (*count < 3) {
+    return -35;
+  }
+  *count = 3;
+  paths[0] = {-800, -2800, 500, 150};
+  paths[1] = {INT32_MAX, INT32_MIN, 0, -1};
+  return 0;
+}
+
+TEST(Outputs, ListsOfRecordsAreDescribed) {
+  const Query query = QUERY(GivePaths, InOut("count"), List("paths"));
+  EXPECT_EQ(Answered(query, {"4"}),
+            "code = 0\ncount = 3\n"
+            "paths = inup -800, indn -2800, outup 500, outdn 150;"
+            " inup 2147483647, indn -2147483648, outup 0, outdn -1; (untouched)\n");
+  EXPECT_EQ(Answered(query, {"2"}), "code = -35\ncount = 2\npaths = (untouched)\n");
+}
+
 // ---- The whole -----------------------------------------------------------------
 
 int32_t calls;
@@ -220,6 +243,18 @@ TEST(Asking, GivesTheValueAndTheTextOfTheFirstCall) {
   EXPECT_EQ(calls, 2);
   EXPECT_EQ(answer.value, -1);
   EXPECT_EQ(answer.console, "\r\ncall 1");
+}
+
+int32_t WriteLog() {
+  return ulogPrintf(devmgrModuRegId, 6, "said");
+}
+
+TEST(Asking, LogsOnce) {
+  testing::internal::CaptureStderr();
+  QUERY(WriteLog).prepare({})();
+  ulogPrintf(devmgrModuRegId, 6, "after");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "log devmgr level 6: said\nlog devmgr level 6: after\n");
 }
 
 TEST(Asking, SaysWhetherTheValueIsACode) {
@@ -259,6 +294,8 @@ static_assert(ListsAreCounted<List, Out, In, List, Out>());
 static_assert(!ListsAreCounted<List, In>() && !ListsAreCounted<Out, List>());
 static_assert(!ListsAreCounted<List, Out, List, In>());
 static_assert(ListsAreCounted<InOut, List>() && ListsAreCounted<InOut, In, List>());
+static_assert(Fits<List, OptModuleThreshold*> && !Fits<List, const OptModuleThreshold*>);
+static_assert(!Fits<List, OptModuleThreshold**> && !Fits<List, OptModuleThreshold>);
 static_assert(!ListsAreCounted<List, InOut>() && !ListsAreCounted<In, List>());
 
 }  // namespace

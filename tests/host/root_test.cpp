@@ -13,10 +13,13 @@
 #include <ostream>
 #include <stdexcept>
 
-#include "host/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace sysctx {
 namespace {
+
+using test::ReadWhole;
+using test::TemporaryFolder;
 
 class Root : public testing::Test {
  protected:
@@ -86,6 +89,28 @@ TEST_F(Root, MappedNameMustFitTheBuffer) {
   std::string buffer(length + 1, '?');
   EXPECT_EQ(MapPath("/mem/x", buffer.data(), length + 1), buffer.data());
   EXPECT_EQ(MapPath("/mem/x", buffer.data(), length), nullptr);
+}
+
+TEST_F(Root, FlashNameMustFitTheBuffer) {
+  const std::string flash = folder_.Write("flash/mnt/work/x", "");
+  std::string buffer(flash.size() + 1, '?');
+  ASSERT_EQ(MapFlashName("/mnt/work/x", buffer.data(), flash.size() + 1), buffer.data());
+  EXPECT_STREQ(buffer.data(), flash.c_str());
+  EXPECT_EQ(MapFlashName("/mnt/work/x", buffer.data(), flash.size()), nullptr);
+}
+
+TEST_F(Root, WithoutARootNothingIsInFlash) {
+  SetRoot("");
+  char buffer[PATH_MAX];
+  const char* path = "/mnt/work/x";
+  EXPECT_EQ(MapFlashName(path, buffer, sizeof buffer), path);
+  EXPECT_EQ(MapFlashName(nullptr, buffer, sizeof buffer), nullptr);
+}
+
+TEST_F(Root, TellsItsFolder) {
+  EXPECT_EQ(sysctx::Root(), folder_.path());
+  SetRoot("");
+  EXPECT_EQ(sysctx::Root(), "");
 }
 
 TEST_F(Root, TooLongARootIsRefused) {

@@ -287,11 +287,11 @@ TEST_F(Shell, HelpListsEveryCommand) {
 
 TEST_F(Shell, HistoryKeepsTheLast256Lines) {
   for (int i = 0; i < 300; ++i) {
-    session_.AddHistory("line " + std::to_string(i));
+    session_.AddHistory("show line " + std::to_string(i));
   }
   EXPECT_TRUE(Run("history").ran);
-  EXPECT_THAT(output_, HasSubstr("\r\n  0. line 44\r\n"));
-  EXPECT_THAT(output_, HasSubstr("\r\n255. line 299\r\n"));
+  EXPECT_THAT(output_, HasSubstr("\r\n  0. show line 44\r\n"));
+  EXPECT_THAT(output_, HasSubstr("\r\n255. show line 299\r\n"));
 }
 
 struct Question {
