@@ -107,6 +107,18 @@ ANSWERS = (
     (LARGE, "ddGetOnuTypeByName KT-G14", "code = -32\npulOnuType = 0\n"),
     (LARGE, "ddGetSupportedOnuMaxLanNum", "code = 0\npulSupportedOnuMaxLanNum = 32\n"),
     (SMALL, "ddGetSupportedOnuMaxLanNum", "code = 0\npulSupportedOnuMaxLanNum = 24\n"),
+    # Power limits of optical modules
+    (SMALL, "get_port_optmodule_thresinfo 1 1 1 4",
+     "code = 0\npathCount = 1\npaths = inup -800, indn -2800, outup 500, outdn 150\n"),
+    (LARGE, "get_port_optmodule_thresinfo 4 1 1 2",
+     "code = 0\npathCount = 2\npaths = inup -800, indn -2800, outup 500, outdn 150;"
+     " inup -500, indn -2600, outup 500, outdn 200\n"),
+    (LARGE, "get_port_optmodule_thresinfo 8 1 1 4",
+     "code = -101\npathCount = 4\npaths = (untouched)\n"),
+    (LARGE, "get_port_optmodule_thresinfo 12 1 1 4",
+     "code = -102\npathCount = 4\npaths = (untouched)\n"),
+    (LARGE, "get_onu_optmodule_thresinfo 1 1 1 9 4",
+     "code = 0\npathCount = 1\npaths = inup -800, indn -2700, outup 500, outdn 50\n"),
 )
 
 # One for each place that refuses; tests/host has all the messages.
@@ -162,11 +174,13 @@ class AskSamples(unittest.TestCase):
             lines = done.stdout.decode().splitlines()
             self.assertEqual(lines[0], "sysctx ask QUERY ARGUMENT ... calls one of these:")
             families = [line for line in lines if line.endswith(":") and " " not in line]
-            self.assertEqual(families[:4], ["context:", "olt:", "frame:", "onu:"])
+            self.assertEqual(families, ["context:", "olt:", "frame:", "onu:", "optmodule:"])
             for line in ("  ddIsContextVerMatchSoftVer",
                          "  ddGetBoardAllPortTypesByType ulBoardType ulArrayAmount",
                          "  ddIsRealSlot ulSlotOut",
-                         "  ddGetAllSupportedOnuType pulOnuTypeNum"):
+                         "  ddGetAllSupportedOnuType pulOnuTypeNum",
+                         "  get_onu_optmodule_thresinfo address1 address2 address3 phyType"
+                         " pathCount"):
                 self.assertIn(line, lines)
 
     def test_debug_shows_the_messages_of_queries(self):
@@ -175,6 +189,16 @@ class AskSamples(unittest.TestCase):
             (done.stdout, done.stderr, done.returncode),
             (b"code = -4\npulCanPlugIn = 0\n",
              b"console: ddIsRealSlot err! ulSlotOut = 0\n", 252))
+
+    def test_log_lines_stay_out_of_the_answer(self):
+        done = card.run("ask", "get_port_optmodule_thresinfo", "4", "1", "1", "1")
+        self.assertEqual(
+            (done.stdout, done.returncode),
+            (b"code = -35\npathCount = 1\npaths = (untouched)\n", 221))
+        self.assertEqual(
+            done.stderr,
+            b"log devmgr level 6: get_port_optmodule_thresinfo:get thresinfo failed, "
+            b"curnum = 2, inputnum 1 is less.\n")
 
     def test_debug_with_run_changes_no_output(self):
         done = card.run("--debug", "run", "show context version | count")

@@ -130,18 +130,44 @@ NameKeyPotsPort1=FXS
 SpecialPortNum=1
 NameKeySpecialPort1=CATV
 """
+OPTICAL_MODULES = """\
+[SupportedOptModuleInfo]
+SupportedOptModuleInfoNum=2
+SupportedOptModuleInfo1=OltGponClassB
+SupportedOptModuleInfo2=OnuCombo
+[OltGponClassB]
+PortKind=1
+PortType=2
+PhyType=1
+PathNum=1
+Path1=500,150,-800,-2800
+[OnuCombo]
+PortKind=3
+PortType=2
+PhyType=7
+PathNum=2
+Path1=500,50,-800,-2700
+Path2=900,400,-900,-2850
+"""
 # What sysctx says of them.
 LOADED = (
     "loaded: 2 versions, 1 modules, 1 system functions\n"
     "loaded: 1 OLT port types, 1 main boards, 2 service boards\n"
     "loaded: frame KT3300-L, 2 real slots, 2 logic ports, 1 type-2 logic ports\n"
-    "loaded: ONU port types: 1 PON, 1 LAN, 1 POTS, 1 special; 2 ONU types\n")
+    "loaded: ONU port types: 1 PON, 1 LAN, 1 POTS, 1 special; 2 ONU types\n"
+    "loaded: 2 optical modules\n")
 NO_FRAME = "loaded: frame (none), 0 real slots, 0 logic ports, 0 type-2 logic ports\n"
 NO_ONUS = "loaded: ONU port types: 0 PON, 0 LAN, 0 POTS, 0 special; 0 ONU types\n"
+NO_OPTICAL_MODULES = "loaded: 0 optical modules\n"
 
 
 def sample(name):
     return SOURCE / "definitions" / name
+
+
+def definition_file(name):
+    """A sample's device definition file."""
+    return sample(name) / "mnt/work/device_definition.ini"
 
 
 def run(*arguments, stdin=b""):
@@ -167,5 +193,14 @@ class CardTest(unittest.TestCase):
         return path
 
     def define(self, text=DEFINITIONS):
-        """Gives the root its device definition file."""
+        """Gives the root its definition files; `text` is the device's."""
         self.write("mnt/work/device_definition.ini", text)
+        self.write("mnt/work/optmodule_definition.ini", OPTICAL_MODULES)
+
+    def check_bytes(self, came, expected):
+        """assertEqual for texts that are too long to be shown."""
+        if came != expected:
+            place = next((i for i, (a, b) in enumerate(zip(came, expected)) if a != b),
+                         min(len(came), len(expected)))
+            self.fail(f"{len(came)} bytes came, not {len(expected)}; they differ from byte {place}:"
+                      f" {came[place:place + 80]!r} instead of {expected[place:place + 80]!r}")

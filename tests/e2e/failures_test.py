@@ -105,7 +105,7 @@ class FailedStart(card.CardTest):
         self.assertIn("\nconsole: ddReadAllModuleInformation err! ulModuleTypeNum = 201,", report)
         self.assertIn("loaded: 2 versions, 0 modules, 0 system functions\n"
                       "loaded: 0 OLT port types, 0 main boards, 0 service boards\n" + card.NO_FRAME
-                      + card.NO_ONUS, report)
+                      + card.NO_ONUS + card.NO_OPTICAL_MODULES, report)
 
     def test_shell_says_so_and_works(self):
         self.break_modules()
@@ -131,7 +131,7 @@ class FailedStart(card.CardTest):
                               report)
                 self.assertIn("loaded: 2 versions, 1 modules, 1 system functions\n"
                               "loaded: 1 OLT port types, 0 main boards, 0 service boards\n"
-                              + card.NO_FRAME + card.NO_ONUS, report)
+                              + card.NO_FRAME + card.NO_ONUS + card.NO_OPTICAL_MODULES, report)
 
     def check_frame(self, code, frame, text):
         """The frame fails, and so much of it was loaded."""
@@ -141,7 +141,7 @@ class FailedStart(card.CardTest):
         report = done.stderr.decode()
         self.assertIn(f"\nddInit failed with {code}: tables behind the failure are empty\n", report)
         self.assertIn("loaded: 1 OLT port types, 1 main boards, 2 service boards\n" + frame
-                      + card.NO_ONUS, report)
+                      + card.NO_ONUS + card.NO_OPTICAL_MODULES, report)
 
     def test_a_frame_that_fails_stays_as_far_as_it_was_loaded(self):
         self.define(card.DEFINITIONS.replace("SwitchChipLogicPort2=2,1,0",
@@ -165,7 +165,8 @@ class FailedStart(card.CardTest):
                 report = done.stderr.decode()
                 self.assertIn(f"\nddInit failed with {code}: tables behind the failure are empty\n",
                               report)
-                self.assertIn(f" 1 type-2 logic ports\nloaded: {tables}\n", report)
+                self.assertIn(f" 1 type-2 logic ports\nloaded: {tables}\n"
+                              + card.NO_OPTICAL_MODULES, report)
 
     def test_onu_port_types_in_front_of_the_failure_are_shown(self):
         self.define(card.DEFINITIONS.replace("OnuPotsTypeNum=1", "OnuPotsTypeNum=31"))
@@ -196,6 +197,40 @@ class FailedStart(card.CardTest):
         self.assertTrue(done.stdout.endswith(
             b" System device describe end! *****************/\r\n" + b" " * 64 + b"\r\n"),
             done.stdout[-200:])
+
+    def check_optical_modules(self, code, file, index, shown):
+        """The optical modules fail, behind tables that are all loaded."""
+        done = card.run("--root", self.root, "run", f"show optmodule fileinfo index {index}")
+        self.assertEqual((done.returncode, done.stdout), (0, shown))
+        report = done.stderr.decode()
+        self.assertIn(f"  /mnt/work/optmodule_definition.ini: {file}\n", report)
+        self.assertIn(f"\nddInit failed with {code}: tables behind the failure are empty\n", report)
+        self.assertIn("console: ddInit optfile initialize......failed!\n", report)
+        self.assertIn(" 1 special; 2 ONU types\n" + card.NO_OPTICAL_MODULES, report)
+
+    def test_missing_optical_modules(self):
+        self.define()
+        (self.root / "mnt/work/optmodule_definition.ini").unlink()
+        self.check_optical_modules(-1, "missing", 1, b"index 1 is out of range 1 ~ 0.\r\n")
+
+    def test_too_many_optical_modules(self):
+        self.define()
+        text = card.OPTICAL_MODULES.replace("InfoNum=2", "InfoNum=51")
+        self.write("mnt/work/optmodule_definition.ini", text)
+        self.check_optical_modules(-15, f"{len(text)} bytes", 0,
+                                   b"index 0 is out of range 1 ~ 0.\r\n")
+
+    def test_an_optical_module_that_is_left_out(self):
+        self.define()
+        self.write("mnt/work/optmodule_definition.ini",
+                   card.OPTICAL_MODULES.replace("PortKind=1\n", ""))
+        done = card.run("--root", self.root, stdin=b"show optmodule fileinfo index 1\n")
+        self.assertIn(b"\nloaded: 1 optical modules\n", done.stdout)
+        self.assertNotIn(b"failed", done.stdout)
+        self.assertIn(b"\nONU PON Optical Module Index 1:\r\nPortType: 2,  PhyType: 7  \r\n",
+                      done.stdout)
+        self.assertIn(b"optmodule_infolist_read: err! ret = -2, strSectionFrameNameBuf = "
+                      b"OltGponClassB, Key = PortKind.", done.stderr)
 
     def test_missing_definition_file(self):
         done = card.run("--root", self.root, "run", "show context version")

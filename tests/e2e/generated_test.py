@@ -16,20 +16,23 @@ NO_ONUS = "ONU port types: 0 PON, 0 LAN, 0 POTS, 0 special; 0 ONU types"
 
 
 class Generated(card.CardTest):
-    def load(self, *options):
-        """What sysctx reports about a file made with these options."""
-        text = subprocess.run(
-            [sys.executable, GENERATOR, *options], capture_output=True, check=True).stdout
-        path = self.root / "mnt/work/device_definition.ini"
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(text)
+    def load(self, *options, optical=None):
+        """What sysctx reports about a file made with these options, and about one of
+        optical modules made with those."""
+        self.define(self.generate(*options))
+        if optical is not None:
+            self.write("mnt/work/optmodule_definition.ini", self.generate("--optical", *optical))
         done = card.run("--root", self.root)
         self.assertEqual(done.returncode, 0)
         return done.stdout.decode()
 
-    def check_counts(self, counts, olt_counts, frame, report, onus=ONUS):
+    def generate(self, *options):
+        return subprocess.run(
+            [sys.executable, GENERATOR, *options], capture_output=True, check=True).stdout.decode()
+
+    def check_counts(self, counts, olt_counts, frame, report, onus=ONUS, optical_modules=2):
         self.assertIn(f"loaded: {counts}\nloaded: {olt_counts}\nloaded: frame {frame}\n"
-                      f"loaded: {onus}\n", report)
+                      f"loaded: {onus}\nloaded: {optical_modules} optical modules\n", report)
 
     def check_loads(self, counts, olt_counts, *options, frame=FRAME, onus=ONUS):
         report = self.load(*options)
@@ -39,7 +42,7 @@ class Generated(card.CardTest):
 
     def check_refused(self, counts, olt_counts, code, *options, frame=NO_FRAME, onus=NO_ONUS):
         report = self.load(*options)
-        self.check_counts(counts, olt_counts, frame, report, onus)
+        self.check_counts(counts, olt_counts, frame, report, onus, optical_modules=0)
         self.assertIn(f"ddInit failed with {code}:", report)
 
     def test_the_default(self):
@@ -167,6 +170,19 @@ class Generated(card.CardTest):
                 report = self.load(option, number)
                 self.check_counts(COUNTS, OLT_COUNTS, FRAME, report, ONUS.replace("6 ONU", "0 ONU"))
                 self.assertNotIn("failed", report)
+
+    def test_optical_modules(self):
+        for options, number in (((), 6), (("--limits",), 50), (("--opt-modules", "0"), 0),
+                                (("--opt-paths", "4", "--line-end", "crlf"), 6)):
+            with self.subTest(options=options):
+                report = self.load(optical=options)
+                self.check_counts(COUNTS, OLT_COUNTS, FRAME, report, optical_modules=number)
+                self.assertNotIn("failed", report)
+
+    def test_too_many_optical_modules_are_refused(self):
+        report = self.load(optical=("--opt-modules", "51"))
+        self.check_counts(COUNTS, OLT_COUNTS, FRAME, report, optical_modules=0)
+        self.assertIn("ddInit failed with -15:", report)
 
 
 if __name__ == "__main__":

@@ -1,35 +1,22 @@
 """`sysctx run`: one command's output byte for byte, and its result."""
-import pathlib
 import unittest
 
 import card
+import expected
 
-GOLDEN = pathlib.Path(__file__).parent / "golden"
-COMMANDS = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all",
-            "frame", "onu_pon", "onu_lan", "onu_pots", "onu_special_port", "onu_type_all",
-            "onu_detail index 8", "onu_all", "device_all")
-# What the report of the device, device_all, is made of.
-BEGIN = b"\r\n\r\n/***************** System device describe begin! *****************/\r\n"
-REPORT = ("version", "module_all", "sys_support_func", "main_board", "olt_port", "board_all",
-          "frame", "onu_pon", "onu_lan", "onu_pots", "onu_special_port", "onu_all")
-END = (b"\r\n\r\n/***************** System device describe end! *****************/\r\n"
-       + b" " * 64 + b"\r\n")
 OMCI_ROW = b" 0. ModuleType =  1, ulNameLen =  5, acName = OMCI         , ulSize = 64\r\n"
-
-
-def golden(sample, command):
-    """The bytes that a command prints on a sample."""
-    if command == "device_all":
-        return BEGIN + b"".join(golden(sample, each) for each in REPORT) + END
-    return (GOLDEN / f"{sample}-{command.split()[0]}.txt").read_bytes()
 
 
 class RunOnSamples(unittest.TestCase):
     def check_golden(self, *options, sample):
-        for command in COMMANDS:
+        texts = {f"context {command}": expected.context(sample, command)
+                 for command in expected.CONTEXT_COMMANDS}
+        texts.update((f"optmodule fileinfo index {index}", text)
+                     for index, text in expected.optical_modules(sample).items())
+        for command, text in texts.items():
             with self.subTest(sample=sample, command=command):
-                done = card.run(*options, "run", f"show context {command}")
-                self.assertEqual(done.stdout, golden(sample, command))
+                done = card.run(*options, "run", f"show {command}")
+                self.assertEqual(done.stdout, text)
                 self.assertEqual(done.stderr, b"")
                 self.assertEqual(done.returncode, 0)
 
@@ -110,6 +97,36 @@ class Run(card.CardTest):
             (0, b"\r\ndebug_ddPrintOneSupportedOnuInfomation err! ulOnuIndex = 2, "
                 b"ulSupportedOnuTypeNum = 2\r\nIndex err! must from 0 to 1\r\n", b""))
 
+    def test_one_optical_module_is_chosen_by_its_index(self):
+        for index, text in (
+                ("1", b"OLT PON Optical Module Index 1:\r\nPortType: 2,  PhyType: 1  \r\n"
+                      b"PON path num: 1 \r\n"
+                      b"path 1: inup: -800, indn -2800, outup 500, outdn 150.\r\n"),
+                ("65538x", b"ONU PON Optical Module Index 2:\r\nPortType: 2,  PhyType: 7  \r\n"
+                           b"PON path num: 2 \r\n"
+                           b"path 1: inup: -800, indn -2700, outup 500, outdn 50.\r\n"
+                           b"path 2: inup: -900, indn -2850, outup 900, outdn 400.\r\n"),
+                ("abc", b"index 0 is out of range 1 ~ 2.\r\n"),
+                ("3", b"index 3 is out of range 1 ~ 2.\r\n"),
+                ("-1", b"index 65535 is out of range 1 ~ 2.\r\n")):
+            with self.subTest(index=index):
+                done = self.run_command(f"sh opt f i {index}")
+                self.assertEqual((done.returncode, done.stdout, done.stderr), (0, text, b""))
+
+    def test_the_file_filtered(self):
+        done = self.run_command("show context file | include KT-G112C")
+        self.assertEqual(
+            (done.returncode, done.stdout, done.stderr),
+            (0, b"SupportedOnuType2=Onu_KT-G112C\r\n[Onu_KT-G112C]\r\nName=KT-G112C\r\n", b""))
+
+    def test_an_upload_needs_four_arguments(self):
+        for arguments in ("127.0.0.1", "127.0.0.1 user", "127.0.0.1 user password",
+                          "127.0.0.1 user password file another"):
+            with self.subTest(arguments=arguments):
+                done = self.run_command(f"upload ftp context {arguments}")
+                self.assertEqual((done.returncode, done.stdout, done.stderr),
+                                 (255, b"Command error!\r\n", b""))
+
     def test_the_frame_is_the_device_types(self):
         self.write("equipment.toml", "device_type = 17\n")
         self.define(card.DEFINITIONS.replace("[KT3300-L", "[KT3300-N"))
@@ -146,8 +163,27 @@ class Run(card.CardTest):
                      b"onu_type_all         all onu type info.",
                      b"onu_detail           all onu type info.",
                      b"onu_all              all onu detail info.",
-                     b"device_all           all devices info."):
+                     b"device_all           all devices info.",
+                     b"file                 context file info."):
             self.assertIn(b"  " + line + b"\n", done.stdout)
+
+    def test_question_lists_arguments(self):
+        for words, text in (
+                ("show ?", b"  context              context info.\n"
+                           b"  optmodule            optmodule.\n"),
+                ("show optmodule fileinfo index ?",
+                 b"  <indexno>            please input index no 1~26.\n"),
+                ("upload ?",
+                 b"  ftp                  Upload file to ftp server use ftp protocal.\n"),
+                ("upload ftp context ?",
+                 b"  <A.B.C.D>            "
+                 b"Please input ftp server's IP address, such as A.B.C.D\n"),
+                ("upload ftp context 127.0.0.1 user password ?",
+                 b"  <filename>           Please input the file name.\n")):
+            with self.subTest(words=words):
+                done = self.run_command(words)
+                self.assertEqual((done.returncode, done.stderr), (0, b""))
+                self.assertTrue(done.stdout.startswith(text), done.stdout)
 
     def test_refused_commands(self):
         for command, message in (
@@ -159,6 +195,12 @@ class Run(card.CardTest):
                 ("show context onu",
                  b'sysctx: Ambiguous command "show context onu": onu_pon onu_lan onu_pots '
                  b'onu_special_port onu_type_all onu_detail onu_all\n'),
+                ("show context f",
+                 b'sysctx: Ambiguous command "show context f": frame file\n'),
+                ("show optmodule fileinfo", b"sysctx: Incomplete command\n"),
+                ("upload ftp context",
+                 b"sysctx: Incomplete command, missing required argument 'A.B.C.D' for command "
+                 b"'context'\n"),
                 ("show context onu_detail", b"sysctx: Incomplete command\n"),
                 ("show context onu_detail index",
                  b"sysctx: Incomplete command, missing required argument 'indexno' for command "
@@ -243,10 +285,20 @@ class Script(card.CardTest):
             "  equipment.toml: device type 15, main card 0 in slot 0, 0 configured cards")
         self.assertEqual(
             lines[3], f"  /mnt/work/device_definition.ini: {len(card.DEFINITIONS)} bytes")
-        self.assertEqual(lines[4], "  /mnt/work/optmodule_definition.ini: missing")
-        self.assertEqual("\n".join(lines[5:9]) + "\n", card.LOADED)
-        self.assertEqual(lines[9], f"commands: {len(COMMANDS)} installed")
+        self.assertEqual(
+            lines[4], f"  /mnt/work/optmodule_definition.ini: {len(card.OPTICAL_MODULES)} bytes")
+        self.assertEqual("\n".join(lines[5:10]) + "\n", card.LOADED)
+        self.assertEqual(lines[10], f"commands: {len(expected.COMMANDS)} installed")
         self.assertRegex("\n".join(lines), r"module 1: SysContext, version \"\w{3} [ \d]\d \d{4} ")
+
+    def test_the_tables_of_the_samples_are_counted(self):
+        for sample, tables in (
+                ("kt3300-l", "68 ONU types\n"),
+                ("kt2200-a", "12 ONU types\n")):
+            with self.subTest(sample=sample):
+                modules = expected.OPTICAL_MODULES[sample]
+                done = card.run("--root", card.sample(sample))
+                self.assertIn(f"{tables}loaded: {modules} optical modules\n", done.stdout.decode())
 
     def test_status_is_the_last_commands(self):
         self.assertEqual(self.feed(b"hide\nshow context version\n").returncode, 0)

@@ -2,53 +2,17 @@
 server."""
 import signal
 import socket
-import struct
-import subprocess
 import threading
 import unittest
 
 import card
+import telnet
+from telnet import PROMPT
 
-PROMPT = b"\r\nsysctx> "
 VERSION_OUTPUT = (
     b"\r\nVersion:\r\nSupportedSoftwareVer:\r\ngstVersionInformation.ulSupportedSoftVerNum = 2"
     b"\r\n 0. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.0"
     b"\r\n 1. ulSupportedSoftVerLen = 11, acSupportedSoftVer = KT2200V4.1\r\n\r\n")
-
-
-class Client:
-    def __init__(self, port):
-        self.socket = socket.create_connection(("127.0.0.1", port), card.PATIENCE)
-        self.greeting = self.read()
-
-    def read(self, until=PROMPT):
-        text = b""
-        while not text.endswith(until):
-            more = self.socket.recv(4096)
-            if not more:
-                raise EOFError(text)
-            text += more
-        return text
-
-    def send(self, keys):
-        self.socket.sendall(keys)
-
-    def ask(self, line):
-        self.send(line + b"\r\n")
-        return self.read()
-
-    def is_closed(self):
-        while True:
-            if not self.socket.recv(4096):
-                return True
-
-    def close(self):
-        self.socket.close()
-
-    def vanish(self):
-        """Closes so that the server's next write fails."""
-        self.socket.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
-        self.socket.close()
 
 
 class Telnet(card.CardTest):
@@ -58,37 +22,24 @@ class Telnet(card.CardTest):
         self.start()
 
     def start(self):
-        self.server = subprocess.Popen(
-            [card.SYSCTX, "--root", str(self.root), "serve", "--telnet", "0"],
-            stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.server = telnet.serve(self)
         self.addCleanup(self.stop)
-        self.report = []
-        while not self.report or not self.report[-1].startswith("listening on "):
-            self.report.append(self.server.stdout.readline().decode())
-            self.assertNotEqual(self.report[-1], "", "the server ended")
-        self.port = int(self.report[-1].split()[-1])
 
     def stop(self, by=signal.SIGTERM):
         """Ends the server; it must go cleanly and have said nothing."""
-        if self.server.returncode is None:
-            self.server.send_signal(by)
-            _, errors = self.server.communicate(timeout=card.PATIENCE)
-            # libcli's own remark about a client that went without goodbye.
-            errors = errors.replace(b"read: Connection reset by peer\n", b"")
-            self.assertEqual((self.server.returncode, errors), (0, b""))
+        self.assertEqual(self.server.stop(by), (0, b""))
 
     def client(self):
-        client = Client(self.port)
-        self.addCleanup(client.close)
-        return client
+        return telnet.connect(self, self.server)
 
     def test_start_up_report(self):
-        self.assertIn(card.LOADED, "".join(self.report))
-        self.assertEqual(self.report[-1], f"listening on 127.0.0.1 port {self.port}\n")
+        self.assertIn(card.LOADED, "".join(self.server.report))
+        self.assertEqual(self.server.report[-1],
+                         f"listening on 127.0.0.1 port {self.server.port}\n")
 
     def test_only_the_loopback_address_is_served(self):
         with self.assertRaises(OSError):
-            socket.create_connection(("127.0.0.2", self.port), card.PATIENCE)
+            socket.create_connection(("127.0.0.2", self.server.port), card.PATIENCE)
 
     def test_greeting(self):
         self.assertIn(b"Simulated control card. Type ? for help.\r\n", self.client().greeting)
@@ -139,7 +90,7 @@ class Telnet(card.CardTest):
 
         def work():
             try:
-                client = Client(self.port)
+                client = telnet.Client(self.server.port)
                 for _ in range(20):
                     if VERSION_OUTPUT not in client.ask(b"show context version"):
                         failures.append("wrong output")
@@ -170,7 +121,7 @@ class Telnet(card.CardTest):
 
     def test_too_many_clients(self):
         clients = [self.client() for _ in range(32)]
-        with socket.create_connection(("127.0.0.1", self.port), card.PATIENCE) as refused:
+        with socket.create_connection(("127.0.0.1", self.server.port), card.PATIENCE) as refused:
             self.assertEqual(refused.recv(100), b"Too many sessions\r\n")
         clients[0].send(b"quit\r\n")
         self.assertTrue(clients[0].is_closed())
@@ -191,22 +142,14 @@ class Telnet(card.CardTest):
 class FailedStart(card.CardTest):
     def test_server_says_so_and_serves(self):
         self.define("[Version]\n")
-        server = subprocess.Popen(
-            [card.SYSCTX, "--root", str(self.root), "serve", "--telnet", "0"],
-            stdout=subprocess.PIPE)
-        try:
-            report = [server.stdout.readline().decode()]
-            while not report[-1].startswith("listening on "):
-                report.append(server.stdout.readline().decode())
-                self.assertNotEqual(report[-1], "")
-            self.assertIn("ddInit failed with -31: tables behind the failure are empty\n", report)
-            client = Client(int(report[-1].split()[-1]))
-            self.assertIn(b"ulSupportedSoftVerNum = 0", client.ask(b"show context version"))
-            client.close()
-        finally:
-            server.terminate()
-            server.communicate(timeout=card.PATIENCE)
-        self.assertEqual(server.returncode, 0)
+        server = telnet.serve(self)
+        self.assertIn("ddInit failed with -31: tables behind the failure are empty\n",
+                      server.report)
+        client = telnet.connect(self, server)
+        self.assertIn(b"ulSupportedSoftVerNum = 0", client.ask(b"show context version"))
+        client.close()
+        status, _ = server.stop()
+        self.assertEqual(status, 0)
 
 
 if __name__ == "__main__":

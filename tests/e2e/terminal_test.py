@@ -1,11 +1,11 @@
 """The shell on a terminal, as somebody types at it."""
-import os
 import re
 import unittest
 
 import pexpect
 
 import card
+import terminal
 
 PROMPT = "sysctx> "
 
@@ -60,11 +60,8 @@ class Terminal(card.CardTest):
     def setUp(self):
         super().setUp()
         self.define()
-        environment = dict(os.environ, TERM="vt100", COLUMNS="120")
-        self.shell = pexpect.spawn(
-            card.SYSCTX, ["--root", str(self.root)], env=environment, encoding="utf-8",
-            timeout=card.PATIENCE, dimensions=(40, 120))
-        self.addCleanup(self.shell.close, force=True)
+        self.shell = terminal.spawn(self, {"TERM": "vt100", "COLUMNS": "120"}, encoding="utf-8",
+                                    dimensions=(40, 120))
         self.screen = Screen()
         self.report = self.wait_for_line(PROMPT)
 
@@ -113,6 +110,10 @@ class Terminal(card.CardTest):
         self.type("i\t", "show context onu_detail index ")
         output = self.type("1\r", "")
         self.assertIn("SupportedOneOnuInformation: KT-G112C", output)
+        self.type("show o\t", "show optmodule ")
+        self.type("f\ti\t", "show optmodule fileinfo index ")
+        output = self.type("2\r", "")
+        self.assertIn("ONU PON Optical Module Index 2:", output)
 
     def test_completion_goes_as_far_as_the_words_agree(self):
         self.type("show context \t", "show context ",
@@ -128,6 +129,17 @@ class Terminal(card.CardTest):
                            behind="  version              version info.")
         self.assertIn("  module_all           all module info.", output)
         self.type("version ?", "show context version ", behind="  <cr>")
+
+    def test_help_on_arguments(self):
+        self.type("upload ftp context ?", "upload ftp context ",
+                  behind="  <A.B.C.D>            Please input ftp server's IP address, "
+                         "such as A.B.C.D")
+        self.type("127.0.0.1 ?", "upload ftp context 127.0.0.1 ",
+                  behind="  <username>           Please input ftp user name.")
+
+    def test_the_definition_file(self):
+        output = self.enter("show context file")
+        self.assertIn("\r\n" + card.DEFINITIONS.replace("\n", "\r\n"), output)
 
     def test_abbreviation_and_filter(self):
         output = self.enter("sh con ver | inc 4.1")
@@ -172,9 +184,7 @@ class Terminal(card.CardTest):
 class FailedStart(card.CardTest):
     def test_shell_is_usable(self):
         self.define("[Version]\n")
-        shell = pexpect.spawn(card.SYSCTX, ["--root", str(self.root)], encoding="utf-8",
-                              timeout=card.PATIENCE)
-        self.addCleanup(shell.close, force=True)
+        shell = terminal.spawn(self, encoding="utf-8")
         shell.expect_exact("ddInit failed with -31: tables behind the failure are empty")
         shell.expect_exact(PROMPT)
         shell.send("show context version\r")
