@@ -3,16 +3,21 @@
 
 #include <cstdint>
 
+#include "bench/definitions.h"
 #include "sys_context/context.h"
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace bench {
 
 struct Loader {
   const char* table;
   int32_t (*load)(const char* file);
+  const char* Definitions::*file = &Definitions::device;
+
+  int32_t Load(const Definitions& files) const { return load(files.*file); }
 };
 
 inline constexpr Loader kLoaders[] = {
@@ -28,6 +33,7 @@ inline constexpr Loader kLoaders[] = {
     {"ONU POTS port types", ddReadAllSupportedOnuPotsInformation},
     {"ONU special port types", ddReadAllSupportedOnuSpecialPortInformation},
     {"ONU types", ddReadAllSupportedOnuInformation},
+    {"optical modules", optmodule_infolist_read, &Definitions::optical},
 };
 
 }  // namespace bench

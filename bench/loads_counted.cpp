@@ -5,6 +5,7 @@
 #include <string>
 
 #include "bench/definition_file.h"
+#include "bench/from_the_top.h"
 #include "bench/loaders.h"
 #include "bench/onu_load.h"
 #include "bench/start.h"
@@ -69,25 +70,30 @@ void AddRow(Table& table, const char* name, const Use& use, size_t file_size) {
              Number(static_cast<double>(use.bytes) / static_cast<double>(file_size), 2)});
 }
 
-// Loads the file at once, then table by table.
+// Loads the files at once, then table by table.
 bool PrintStart(const StartFile& file) {
-  const size_t size = SizeOf(file.path);
+  const size_t device_size = SizeOf(file.files.device);
+  const size_t optical_size = SizeOf(file.files.optical);
+  const size_t size = device_size + optical_size;
   Use of_start;
-  if (size == 0 || !Count(
-                       file.name, [&] { return Start(file); }, of_start)) {
+  if (device_size == 0 || optical_size == 0 ||
+      !Count(
+          file.name, [&] { return Start(file); }, of_start)) {
     return false;
   }
-  std::printf("Reads of a start, %s of %.0f KB.\n\n", file.name,
-              static_cast<double>(size) / kKilobyte);
+  std::printf("Reads of a start, %s of %.0f KB and %.1f KB of optical modules.\n\n", file.name,
+              static_cast<double>(device_size) / kKilobyte,
+              static_cast<double>(optical_size) / kKilobyte);
   Table table({"", "lookups", "MB read", "bytes / lookup", "bytes / byte of the file"});
   Use sum;
   for (const Loader& loader : kLoaders) {
     Use use;
     if (!Count(
-            loader.table, [&] { return loader.load(file.path) == 0; }, use)) {
+            loader.table, [&] { return loader.Load(file.files) == 0; }, use)) {
       return false;
     }
-    AddRow(table, loader.table, use, size);
+    AddRow(table, loader.table, use,
+           loader.file == &Definitions::device ? device_size : optical_size);
     sum = {sum.opened + use.opened, sum.bytes + use.bytes};
   }
   AddRow(table, "ddInit", of_start, size);
@@ -113,7 +119,8 @@ bool PrintOnuLoads() {
         !Count(
             name.c_str(), [&] { return LoadOnuTypes(load); }, of_load) ||
         !Count(
-            name.c_str(), [&] { return LookUpFromTheTop(load); }, of_top)) {
+            name.c_str(), [&] { return LookUpFromTheTop(load.file, load.content.lookups); },
+            of_top)) {
       return false;
     }
     table.Row(

@@ -106,10 +106,6 @@ void Register(const Subject& subject, const char* contestant, bool (*run)(const 
   benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMillisecond);
 }
 
-std::string RatioIfMeasured(double time, double base) {
-  return time == 0 || base == 0 ? "-" : Ratio(time / base);
-}
-
 void PrintTable(const std::deque<Subject>& subjects, const Minima& minima) {
   std::printf("Loads of main boards: milliseconds per load.\n\n");
   Table table({"", "KB", "lookups", "MB scanned", kLibrary, kScanFloor, "library / floor",

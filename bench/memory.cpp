@@ -1,4 +1,4 @@
-// Loads the tables of a definition file, as a host does, and prints what they
+// Loads the tables of the definition files, as a host does, and prints what they
 // take of the heap. Its own malloc, calloc, free and fopen stand in front of the
 // C library's.
 #include <fcntl.h>
@@ -67,8 +67,8 @@ void Leave(void* start) {
   }
 }
 
-// The definition file, which ddInit opens by a path of its own.
-const char* definition_file = nullptr;
+// What is loaded, which ddInit opens by paths of its own.
+constinit bench::Definitions files = {};
 
 }  // namespace
 
@@ -85,8 +85,8 @@ extern "C" void free(void* block) noexcept {
   __libc_free(block);
 }
 
-extern "C" FILE* fopen(const char*, const char* mode) {
-  const int descriptor = open(definition_file, O_RDONLY);
+extern "C" FILE* fopen(const char* path, const char* mode) {
+  const int descriptor = open(files.Meant(path), O_RDONLY);
   return descriptor < 0 ? nullptr : fdopen(descriptor, mode);
 }
 
@@ -94,7 +94,7 @@ namespace {
 
 void Check(int32_t code, const char* what) {
   if (code != 0) {
-    std::fprintf(stderr, "%s: %s: code %d\n", definition_file, what, static_cast<int>(code));
+    std::fprintf(stderr, "%s: code %d\n", what, static_cast<int>(code));
     std::exit(1);
   }
 }
@@ -107,11 +107,11 @@ void AddRow(bench::Table& table, const char* name, const Use& use) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: %s FILE\n", argv[0]);
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: %s FILE OPTICAL-FILE\n", argv[0]);
     return 2;
   }
-  definition_file = argv[1];
+  files = {.device = argv[1], .optical = argv[2]};
 
   // First all together.
   const Use before = now;
@@ -120,12 +120,13 @@ int main(int argc, char** argv) {
   const Use of_init = now.Since(before);
   const Use of_peak = peak.Since(before);
 
-  // Then table by table. The frame alone would release what it holds.
+  // Then table by table. The frame and the optical modules would release what they hold.
   gstFrame = {};
+  init_optmodule_info();
   Use of_tables[std::size(kLoaders)];
   for (size_t i = 0; i < std::size(kLoaders); ++i) {
     const Use before_table = now;
-    Check(kLoaders[i].load(definition_file), kLoaders[i].table);
+    Check(kLoaders[i].Load(files), kLoaders[i].table);
     of_tables[i] = now.Since(before_table);
   }
 

@@ -6,6 +6,7 @@
 #include <deque>
 #include <string>
 
+#include "bench/from_the_top.h"
 #include "bench/measure.h"
 #include "bench/onu_load.h"
 #include "bench/table.h"
@@ -24,6 +25,10 @@ std::string Scenario(size_t types) {
   return std::to_string(types) + " ONU types";
 }
 
+bool FromTheTop(const OnuLoad& load) {
+  return LookUpFromTheTop(load.file, load.content.lookups);
+}
+
 // Clears `all_succeeded` when a run fails.
 void Register(const OnuLoad& load, const char* contestant, bool (*run)(const OnuLoad&),
               bool& all_succeeded) {
@@ -34,10 +39,6 @@ void Register(const OnuLoad& load, const char* contestant, bool (*run)(const Onu
   };
   const std::string name = Minima::Name(Scenario(load.types), contestant);
   benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMillisecond);
-}
-
-std::string RatioIfMeasured(double time, double base) {
-  return time == 0 || base == 0 ? "-" : Ratio(time / base);
 }
 
 void PrintTable(const std::deque<OnuLoad>& loads, const Minima& minima) {
@@ -67,7 +68,7 @@ int Main(int argc, char** argv) {
   for (const size_t types : kOnuTypes) {
     const OnuLoad& load = loads.emplace_back(types);
     Register(load, kLoad, LoadOnuTypes, all_succeeded);
-    Register(load, kFromTheTop, LookUpFromTheTop, all_succeeded);
+    Register(load, kFromTheTop, FromTheTop, all_succeeded);
   }
   all_succeeded = LoadOnuPortTypes(loads.front());  // the same in every file
   PrintTable(loads, Measure());

@@ -3,7 +3,6 @@
 
 #include <cstdlib>
 
-#include "sys_context/cfgfile.h"
 #include "sys_context/onu.h"
 
 namespace bench {
@@ -36,17 +35,6 @@ bool LoadOnuTypes(const OnuLoad& load) {
   std::free(table.pOnuTypeArray);
   table = {};
   return loaded;
-}
-
-bool LookUpFromTheTop(const OnuLoad& load) {
-  char value[CFG_VALUE_SIZE];
-  bool found = true;
-  for (const Lookup& lookup : load.content.lookups) {
-    found = found &&
-            CFG_get_key(load.file.path(), lookup.section.c_str(), lookup.key.c_str(), value) == 0 &&
-            lookup.value == value;
-  }
-  return found;
 }
 
 }  // namespace bench

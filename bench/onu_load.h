@@ -1,4 +1,4 @@
-// A load of ONU types, and the same lookups made from the top of the file.
+// A load of ONU types.
 #pragma once
 
 #include "bench/onu_file.h"
@@ -21,8 +21,5 @@ bool LoadOnuPortTypes(const OnuLoad& load);
 
 // Loads the ONU types and releases them.
 bool LoadOnuTypes(const OnuLoad& load);
-
-// Makes the load's lookups with CFG_get_key.
-bool LookUpFromTheTop(const OnuLoad& load);
 
 }  // namespace bench

@@ -5,6 +5,7 @@
 
 #include "sys_context/context.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 #include "sys_context/platform.h"
 
 namespace bench::plain {
@@ -130,6 +131,13 @@ uint32_t OnuType(uint32_t type) {
 uint32_t OnuType(const char* name) {
   return Place(gstSupportedOnuType.ulSupportedOnuTypeNum, [=](uint32_t i) {
     return std::strcmp(gstSupportedOnuType.pOnuTypeArray[i]->acName, name) == 0;
+  });
+}
+
+uint32_t OptModule(uint16_t kind, uint32_t port_type, uint16_t phy_type) {
+  return Place(g_optmdule_infolist.listnum, [=](uint32_t i) {
+    const OptModuleInfo& module = *g_optmdule_infolist.objlist[i];
+    return module.kind == kind && module.porttype == port_type && module.phytype == phy_type;
   });
 }
 

@@ -27,6 +27,7 @@ uint32_t BalancePort(uint32_t slot, uint32_t port, uint32_t chip);
 uint32_t OnuLanPortType(const char* name);
 uint32_t OnuType(uint32_t type);
 uint32_t OnuType(const char* name);
+uint32_t OptModule(uint16_t kind, uint32_t port_type, uint16_t phy_type);
 
 // 0 without.
 uint32_t PhyPort(const PortMap& map, uint32_t logic_port);

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "bench/full_onu_table.h"
+#include "bench/full_optical_list.h"
 #include "bench/loaders.h"
 #include "bench/plain_queries.h"
 #include "support/sample_onu_service.h"
@@ -13,6 +14,7 @@
 #include "sys_context/frame.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
+#include "sys_context/optmodule.h"
 
 namespace bench {
 namespace {
@@ -143,6 +145,19 @@ Answer AllOnuTypes() {
   uint32_t length = 0;
   const int32_t code = ddGetAllSupportedOnuType(&length, list);
   return {.code = code, .value = length};
+}
+
+// Answers with the number of paths. The card in slot 1 is a GP16A, whose port type is that
+// of the full list.
+Answer PowerLimits(uint16_t phy_type) {
+  OptModuleThreshold paths[MAX_OPTMODULE_PATH_NUM];
+  uint16_t count = MAX_OPTMODULE_PATH_NUM;
+  const int32_t code = get_port_optmodule_thresinfo(1, 16, phy_type, &count, paths);
+  return {.code = code, .value = count};
+}
+
+uint32_t PlaceOfModule(uint16_t phy_type) {
+  return plain::OptModule(OPTMODULE_KIND_OLT_PON, kFullListPortType, phy_type);
 }
 
 constexpr Query kQueries[] = {
@@ -309,6 +324,12 @@ constexpr Query kQueries[] = {
      Ask<FullOnuTable>([] { return AllOnuTypes(); }, 0, 200),
      {},
      Loop<FullOnuTable>([] { return plain::OnuTypes(list); }, 200)},
+    {"get_port_optmodule_thresinfo", "boards, 26 modules",
+     Ask([] { return PowerLimits(2); }, 0, 1)},
+    {"get_port_optmodule_thresinfo, full list", "boards, 50 modules",
+     Ask<FullOpticalList>([] { return PowerLimits(FullListPhyType(25)); }, 0, 3),
+     Ask<FullOpticalList>([] { return PowerLimits(FullListPhyType(50)); }, 0, 4),
+     Loop<FullOpticalList>([] { return PlaceOfModule(FullListPhyType(50)); }, 50)},
 };
 
 }  // namespace
@@ -322,8 +343,9 @@ Question EmptyCall() {
 }
 
 bool LoadSample() {
+  constexpr Definitions kSample = {SYS_CONTEXT_SAMPLE, SYS_CONTEXT_OPTICAL_SAMPLE};
   return std::all_of(std::begin(kLoaders), std::end(kLoaders),
-                     [](const Loader& loader) { return loader.load(SYS_CONTEXT_SAMPLE) == 0; });
+                     [&](const Loader& loader) { return loader.Load(kSample) == 0; });
 }
 
 bool AnswersAsExpected(const std::string& name, const Question& question) {

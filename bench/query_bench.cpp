@@ -39,10 +39,6 @@ void Register(const char* query, const char* contestant, const Question& questio
   benchmark::RegisterBenchmark(name.c_str(), measure);
 }
 
-std::string RatioIfMeasured(double time, double base) {
-  return base == 0 ? "-" : Time(time / base);
-}
-
 void PrintTable(const Minima& minima) {
   const double call = minima.Get(kCall, kTypical);
   std::printf("Queries: nanoseconds per call; a call that does nothing takes %s.\n\n",
@@ -53,9 +49,9 @@ void PrintTable(const Minima& minima) {
     const double typical = minima.Get(query.name, kTypical);
     const double worst = minima.Get(query.name, kWorst);
     const double plain = minima.Get(query.name, kPlain);
-    table.Row({query.name, query.scans, Time(typical), RatioIfMeasured(typical, call), Time(worst),
-               RatioIfMeasured(worst, call), Time(plain),
-               RatioIfMeasured(worst == 0 ? typical : worst, plain)});
+    table.Row({query.name, query.scans, Time(typical), ThreeDigitRatio(typical, call), Time(worst),
+               ThreeDigitRatio(worst, call), Time(plain),
+               ThreeDigitRatio(worst == 0 ? typical : worst, plain)});
   }
   table.Print();
 }

@@ -1,5 +1,5 @@
 // Measures what a whole start costs: ddInit, beside one pass of other libraries over
-// the same file.
+// the same two files.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -48,24 +48,59 @@ std::string InOtherDialect(const std::string& text) {
   return other;
 }
 
-// What is measured on one file.
-struct Subject {
-  explicit Subject(const StartFile& its_file)
-      : file(its_file), text(TextOf(its_file.path)), other_dialect(InOtherDialect(text)) {}
+// One of the files of a start.
+struct File {
+  explicit File(const char* its_path)
+      : path(its_path), text(TextOf(its_path)), other_dialect(InOtherDialect(text)) {}
 
-  const StartFile& file;
+  const char* path;
   std::string text;
   TemporaryFile other_dialect;
+};
+
+bool Inih(const File& file, size_t* entries) {
+  return InihPass(file.path, entries);
+}
+
+bool GKeyFile(const File& file, size_t* entries) {
+  return GKeyFilePass(file.other_dialect.path(), entries);
+}
+
+bool Floor(const File& file, size_t*) {
+  char value[CFG_VALUE_SIZE];
+  return ScanFloor(file.path, {{}, {}, {}, file.text.size()}, value);
+}
+
+// What is measured on the files of one start.
+struct Subject {
+  explicit Subject(const StartFile& its_start)
+      : start(its_start), device(its_start.files.device), optical(its_start.files.optical) {}
+
+  size_t Bytes() const { return device.text.size() + optical.text.size(); }
+
+  const StartFile& start;
+  File device;
+  File optical;
   size_t entries = 0;
 };
 
+using Pass = bool (*)(const File& file, size_t* entries);
+
+// The entries of both files; 0 when one cannot be read.
+size_t EntriesBy(Pass pass, const Subject& subject) {
+  size_t of_device = 0;
+  size_t of_optical = 0;
+  return pass(subject.device, &of_device) && pass(subject.optical, &of_optical)
+             ? of_device + of_optical
+             : 0;
+}
+
 // All libraries must find the same entries.
 bool CountEntries(Subject& subject) {
-  size_t of_glib = 0;
-  const bool read = InihPass(subject.file.path, &subject.entries) &&
-                    GKeyFilePass(subject.other_dialect.path(), &of_glib);
-  if (!read || subject.entries != of_glib) {
-    std::fprintf(stderr, "%s: %zu entries by inih, %zu by GKeyFile\n", subject.file.name,
+  subject.entries = EntriesBy(Inih, subject);
+  const size_t of_glib = EntriesBy(GKeyFile, subject);
+  if (subject.entries == 0 || subject.entries != of_glib) {
+    std::fprintf(stderr, "%s: %zu entries by inih, %zu by GKeyFile\n", subject.start.name,
                  subject.entries, of_glib);
     return false;
   }
@@ -80,29 +115,25 @@ void Register(const Subject& subject, const char* contestant, const std::functio
       all_succeeded = run() && all_succeeded;
     }
   };
-  const std::string name = Minima::Name(subject.file.name, contestant);
+  const std::string name = Minima::Name(subject.start.name, contestant);
   benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMillisecond);
 }
 
 void RegisterAll(const Subject& subject, bool& all_succeeded) {
   Register(
-      subject, kLibrary, [&] { return Start(subject.file); }, all_succeeded);
-  Register(
-      subject, kInih, [&] { return InihPass(subject.file.path, nullptr); }, all_succeeded);
-  Register(
-      subject, kGKeyFile, [&] { return GKeyFilePass(subject.other_dialect.path(), nullptr); },
-      all_succeeded);
-  Register(
-      subject, kScanFloor,
-      [&] {
-        char value[CFG_VALUE_SIZE];
-        return ScanFloor(subject.file.path, {{}, {}, {}, subject.text.size()}, value);
-      },
-      all_succeeded);
-}
-
-std::string RatioIfMeasured(double time, double base) {
-  return time == 0 || base == 0 ? "-" : Time(time / base);
+      subject, kLibrary, [&] { return Start(subject.start); }, all_succeeded);
+  constexpr struct {
+    const char* contestant;
+    Pass pass;
+  } kPasses[] = {{kInih, Inih}, {kGKeyFile, GKeyFile}, {kScanFloor, Floor}};
+  for (const auto& [contestant, pass] : kPasses) {
+    Register(
+        subject, contestant,
+        [&subject, pass = pass] {
+          return pass(subject.device, nullptr) && pass(subject.optical, nullptr);
+        },
+        all_succeeded);
+  }
 }
 
 void PrintTable(const std::deque<Subject>& subjects, const Minima& minima) {
@@ -111,13 +142,13 @@ void PrintTable(const std::deque<Subject>& subjects, const Minima& minima) {
                "ddInit / GKeyFile"});
   for (const Subject& subject : subjects) {
     const auto time = [&](const char* contestant) {
-      return minima.Get(subject.file.name, contestant);
+      return minima.Get(subject.start.name, contestant);
     };
-    table.Row({subject.file.name, Number(static_cast<double>(subject.text.size()) / kKilobyte, 0),
+    table.Row({subject.start.name, Number(static_cast<double>(subject.Bytes()) / kKilobyte, 0),
                std::to_string(subject.entries), Time(time(kLibrary)), Time(time(kInih)),
                Time(time(kGKeyFile)), Time(time(kScanFloor)),
-               RatioIfMeasured(time(kLibrary), time(kInih)),
-               RatioIfMeasured(time(kLibrary), time(kGKeyFile))});
+               ThreeDigitRatio(time(kLibrary), time(kInih)),
+               ThreeDigitRatio(time(kLibrary), time(kGKeyFile))});
   }
   table.Print();
 }

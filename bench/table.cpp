@@ -46,6 +46,14 @@ std::string Ratio(double ratio) {
   return Number(ratio, 2);
 }
 
+std::string RatioIfMeasured(double time, double base) {
+  return time == 0 || base == 0 ? "-" : Ratio(time / base);
+}
+
+std::string ThreeDigitRatio(double time, double base) {
+  return time == 0 || base == 0 ? "-" : Time(time / base);
+}
+
 std::string Time(double time) {
   if (time == 0) {
     return "-";

@@ -23,6 +23,10 @@ class Table {
 std::string Number(double number, int decimals);
 std::string Ratio(double ratio);
 
+// Of two times; "-" when one of them was not measured.
+std::string RatioIfMeasured(double time, double base);  // two decimals
+std::string ThreeDigitRatio(double time, double base);
+
 // A time, with three digits; "-" when there is none.
 std::string Time(double time);
 
