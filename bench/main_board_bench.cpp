@@ -1,8 +1,6 @@
 // Measures what it costs to load main boards, and how that grows when the file
 // doubles. A load looks every entry of the main boards up from the top of the
 // file; the floor makes the same lookups with ScanFloor.
-#include <benchmark/benchmark.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
@@ -94,18 +92,6 @@ bool SampleOfFloor(const Subject& subject) {
   return read;
 }
 
-// Clears `all_succeeded` when a run fails.
-void Register(const Subject& subject, const char* contestant, bool (*run)(const Subject&),
-              bool& all_succeeded) {
-  const auto measure = [&subject, run, &all_succeeded](benchmark::State& state) {
-    for ([[maybe_unused]] auto _ : state) {
-      all_succeeded = run(subject) && all_succeeded;
-    }
-  };
-  const std::string name = Minima::Name(subject.scenario.name, contestant);
-  benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMillisecond);
-}
-
 void PrintTable(const std::deque<Subject>& subjects, const Minima& minima) {
   std::printf("Loads of main boards: milliseconds per load.\n\n");
   Table table({"", "KB", "lookups", "MB scanned", kLibrary, kScanFloor, "library / floor",
@@ -129,19 +115,15 @@ int Main(int argc, char** argv) {
   if (!TakeOptions(argc, argv, kRepetitions)) {
     return 2;
   }
-  bool all_succeeded = true;
+  Runs runs(TimeUnit::kMillisecond);
   std::deque<Subject> subjects;
   for (const Scenario& scenario : kScenarios) {
     const Subject& subject = subjects.emplace_back(scenario);
-    Register(subject, kLibrary, Load, all_succeeded);
-    Register(subject, kScanFloor, SampleOfFloor, all_succeeded);
+    runs.Register(scenario.name, kLibrary, [&] { return Load(subject); });
+    runs.Register(scenario.name, kScanFloor, [&] { return SampleOfFloor(subject); });
   }
   PrintTable(subjects, Measure());
-  if (!all_succeeded) {
-    std::fputs("a load has failed\n", stderr);
-    return 2;
-  }
-  return 0;
+  return runs.ExitStatus();
 }
 
 }  // namespace

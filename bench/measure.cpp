@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <vector>
 
 namespace bench {
@@ -29,6 +30,25 @@ class MinimaReporter : public benchmark::BenchmarkReporter {
 };
 
 }  // namespace
+
+void Runs::Register(const std::string& scenario, const std::string& contestant,
+                    const std::function<bool()>& run) {
+  const auto measure = [this, run](benchmark::State& state) {
+    for ([[maybe_unused]] auto _ : state) {
+      all_succeeded_ = run() && all_succeeded_;
+    }
+  };
+  benchmark::RegisterBenchmark(Minima::Name(scenario, contestant).c_str(), measure)
+      ->Unit(unit_ == TimeUnit::kMicrosecond ? benchmark::kMicrosecond : benchmark::kMillisecond);
+}
+
+int Runs::ExitStatus() const {
+  if (!all_succeeded_) {
+    std::fputs("a run has failed\n", stderr);
+    return 2;
+  }
+  return 0;
+}
 
 void Minima::Add(const std::string& name, double time) {
   const auto [place, is_new] = minima_.emplace(name, time);

@@ -3,6 +3,7 @@
 // does falls on all alike. Times are processor time.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -22,6 +23,25 @@ class Minima {
 
  private:
   std::map<std::string, double> minima_;
+};
+
+// The unit of a benchmark's times.
+enum class TimeUnit { kMicrosecond, kMillisecond };
+
+// What a program measures: contestants in scenarios, each a function that is false when a
+// run fails.
+class Runs {
+ public:
+  explicit Runs(TimeUnit unit) : unit_(unit) {}
+
+  void Register(const std::string& scenario, const std::string& contestant,
+                const std::function<bool()>& run);
+  // The exit status of the program, which says so when a run has failed.
+  int ExitStatus() const;
+
+ private:
+  const TimeUnit unit_;
+  bool all_succeeded_ = true;
 };
 
 // Takes the options of the command line; it may change the repetitions, too.

@@ -1,8 +1,6 @@
 // Measures what it costs to load the list of optical modules, and how that grows with their
 // number. Beside it stand the same lookups, each made from the top of the file, and the
 // floor under them.
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <deque>
@@ -58,18 +56,6 @@ bool Floor(const OpticalLoad& load) {
       [&](const Lookup& lookup) { return OpenFloor(load.file.path(), lookup, value); });
 }
 
-// Clears `all_succeeded` when a run fails.
-void Register(const OpticalLoad& load, const char* contestant, bool (*run)(const OpticalLoad&),
-              bool& all_succeeded) {
-  const auto measure = [&load, run, &all_succeeded](benchmark::State& state) {
-    for ([[maybe_unused]] auto _ : state) {
-      all_succeeded = run(load) && all_succeeded;
-    }
-  };
-  const std::string name = Minima::Name(load.name, contestant);
-  benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMicrosecond);
-}
-
 void PrintTable(const std::deque<OpticalLoad>& loads, const Minima& minima) {
   std::printf("Loads of optical modules with %zu paths each: microseconds per load.\n\n",
               kOptModulePaths);
@@ -94,20 +80,16 @@ int Main(int argc, char** argv) {
   if (!TakeOptions(argc, argv, kRepetitions)) {
     return 2;
   }
-  bool all_succeeded = true;
+  Runs runs(TimeUnit::kMicrosecond);
   std::deque<OpticalLoad> loads;
   for (const size_t modules : kModules) {
     const OpticalLoad& load = loads.emplace_back(modules);
-    Register(load, kLibrary, Load, all_succeeded);
-    Register(load, kOpenFloor, Floor, all_succeeded);
-    Register(load, kFromTheTop, FromTheTop, all_succeeded);
+    runs.Register(load.name, kLibrary, [&] { return Load(load); });
+    runs.Register(load.name, kOpenFloor, [&] { return Floor(load); });
+    runs.Register(load.name, kFromTheTop, [&] { return FromTheTop(load); });
   }
   PrintTable(loads, Measure());
-  if (!all_succeeded) {
-    std::fputs("a load has failed\n", stderr);
-    return 2;
-  }
-  return 0;
+  return runs.ExitStatus();
 }
 
 }  // namespace

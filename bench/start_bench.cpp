@@ -1,7 +1,5 @@
 // Measures what a whole start costs: ddInit, beside one pass of other libraries over
 // the same two files.
-#include <benchmark/benchmark.h>
-
 #include <cstdio>
 #include <deque>
 #include <fstream>
@@ -107,32 +105,16 @@ bool CountEntries(Subject& subject) {
   return true;
 }
 
-// Clears `all_succeeded` when a run fails.
-void Register(const Subject& subject, const char* contestant, const std::function<bool()>& run,
-              bool& all_succeeded) {
-  const auto measure = [run, &all_succeeded](benchmark::State& state) {
-    for ([[maybe_unused]] auto _ : state) {
-      all_succeeded = run() && all_succeeded;
-    }
-  };
-  const std::string name = Minima::Name(subject.start.name, contestant);
-  benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMillisecond);
-}
-
-void RegisterAll(const Subject& subject, bool& all_succeeded) {
-  Register(
-      subject, kLibrary, [&] { return Start(subject.start); }, all_succeeded);
+void RegisterAll(const Subject& subject, Runs& runs) {
+  runs.Register(subject.start.name, kLibrary, [&] { return Start(subject.start); });
   constexpr struct {
     const char* contestant;
     Pass pass;
   } kPasses[] = {{kInih, Inih}, {kGKeyFile, GKeyFile}, {kScanFloor, Floor}};
   for (const auto& [contestant, pass] : kPasses) {
-    Register(
-        subject, contestant,
-        [&subject, pass = pass] {
-          return pass(subject.device, nullptr) && pass(subject.optical, nullptr);
-        },
-        all_succeeded);
+    runs.Register(subject.start.name, contestant, [&subject, pass = pass] {
+      return pass(subject.device, nullptr) && pass(subject.optical, nullptr);
+    });
   }
 }
 
@@ -157,21 +139,17 @@ int Main(int argc, char** argv) {
   if (!TakeOptions(argc, argv, kRepetitions)) {
     return 2;
   }
-  bool all_succeeded = true;
+  Runs runs(TimeUnit::kMillisecond);
   std::deque<Subject> subjects;
   for (const StartFile& file : kStartFiles) {
     Subject& subject = subjects.emplace_back(file);
     if (!CountEntries(subject)) {
       return 2;
     }
-    RegisterAll(subject, all_succeeded);
+    RegisterAll(subject, runs);
   }
   PrintTable(subjects, Measure());
-  if (!all_succeeded) {
-    std::fputs("a start or a pass has failed\n", stderr);
-    return 2;
-  }
-  return 0;
+  return runs.ExitStatus();
 }
 
 }  // namespace
