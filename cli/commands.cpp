@@ -55,9 +55,24 @@ SHOW_COMMAND(ddShowAllSupportedOnuType_CMD, ddShowAllSupportedOnuType_Func,
              "show context onu_type_all", "show info.\ncontext info.\nall onu type info.\n",
              ddPrintAllSupportedOnuTypeBaseInfomation);
 
+namespace sys_context {
+namespace {
+
+// The first argument as a decimal number; 0 without one.
+uint32_t FirstNumber(int32_t argc, char** argv) {
+  return argc > 0 ? ParseUnsigned(argv[0]) : 0;
+}
+
+// The card does not upload to itself.
+bool IsOwnAddress(const char* address) {
+  return is_manage_ipAddr(inet_addr(address)) != 0 || diags_is_outbandip(address) != 0;
+}
+
+}  // namespace
+}  // namespace sys_context
+
 int32_t ddShowOneSupportedOnuInfo_Func(CommandRecord*, void* vty, int32_t argc, char** argv) {
-  const uint32_t index = argc > 0 ? sys_context::ParseUnsigned(argv[0]) : 0;
-  ddPrintOneSupportedOnuInfomation(index, vty);
+  ddPrintOneSupportedOnuInfomation(sys_context::FirstNumber(argc, argv), vty);
   return sys_context::kOk;
 }
 
@@ -74,17 +89,6 @@ SHOW_COMMAND(ddShowAllDevice_CMD, ddShowAllDevice_Func, "show context device_all
              "show info.\ncontext info.\nall devices info.\n", ddPrintAllContextInformation);
 SHOW_COMMAND(ddShowContextFile_CMD, ddShowContextFile_Func, "show context file",
              "show info.\ncontext info.\ncontext file info.\n", ddPrintContextFile);
-
-namespace sys_context {
-namespace {
-
-// The card does not upload to itself.
-bool IsOwnAddress(const char* address) {
-  return is_manage_ipAddr(inet_addr(address)) != 0 || diags_is_outbandip(address) != 0;
-}
-
-}  // namespace
-}  // namespace sys_context
 
 int32_t ddUploadContextFile_Func(CommandRecord*, void* vty, int32_t argc, char** argv) {
   using namespace sys_context;
@@ -110,8 +114,8 @@ COMMAND(ddUploadContextFile_CMD, ddUploadContextFile_Func,
         "Please input the file name.\n");
 
 int32_t show_optmodule_info_func(CommandRecord*, void* vty, int32_t argc, char** argv) {
-  const int32_t index = argc > 0 ? sys_context::ParseNumber(argv[0]) : 0;
-  show_optmodule_fileinfo_byindex(static_cast<uint16_t>(index), vty);
+  // kept as is: the low 16 bits are the index.
+  show_optmodule_fileinfo_byindex(static_cast<uint16_t>(sys_context::FirstNumber(argc, argv)), vty);
   return sys_context::kOk;
 }
 

@@ -1,17 +1,16 @@
 // The device definition file as it is kept in flash: shown, and sent to an FTP server.
-#include "context/stored_file.h"
-
 #include <optional>
 
 #include "cli/listing.h"
 #include "common/codes.h"
 #include "common/memory.h"
+#include "context/stored_file.h"
 #include "sys_context/cli.h"
 
 namespace sys_context {
 namespace {
 
-// How the commands on the file differ in their failures. All texts show the function's
+// How the commands on the file differ in their failures. The texts show the function's
 // name first.
 struct FileCommand {
   const char* name;
