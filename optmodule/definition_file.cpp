@@ -93,11 +93,11 @@ int32_t optmodule_infolist_read(const char* filename) {
   if (const int32_t code = ReadCount(source, announced); code != kOk) {
     return code;
   }
-  optmodule_file_free();
   if (announced == 0) {
     Log(LogLevel::kWholeFile, "%s: ok! SupportedOptModuleInfoNum = %d.\r\n", kReader, announced);
-    return kOk;
+    return optmodule_file_free();
   }
+  optmodule_file_free();
   OptModuleInfoList& list = g_optmdule_infolist;
   list.objlist = NewArray<OptModuleInfo*>(announced).release();
   if (list.objlist == nullptr) {
