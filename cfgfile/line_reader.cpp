@@ -3,57 +3,66 @@
 
 #include <algorithm>
 
-#include "cfgfile/line.h"
-
 namespace sys_context {
 namespace {
-
-constexpr char kFirstPrintable = ' ';
 
 // Lines are skipped by chunks of some words.
 constexpr size_t kChunkWords = 8;
 constexpr size_t kChunk = kChunkWords * kWordBytes;
 
-// So many chunks in a row without a line feed may belong to a line that must be
+// So many chunks in a row without a line end may belong to a line that must be
 // cut. One less may not: with chunks of 64 bytes, 6 of them and at most 63 bytes
 // of the chunk before and of the one behind make 510 characters.
 constexpr size_t kSuspiciousChunks = (kLongestLine - 1 - 2 * (kChunk - 1)) / kChunk + 1;
 
-// Bytes which the skipping must not pass over: they may begin a section or end
-// a line. Of the line ends only the line feed is harmless.
+// The ends of lines that the skipping counts: line feeds and 0x1A, which differ in one bit.
+constexpr Word MarkLineEnds(Word word) {
+  return MarkEqual(word & ~InEachByte('\n' ^ kSubstitute), '\n');
+}
+
+constexpr bool IsLineEnd(char c) {
+  return c == '\n' || c == kSubstitute;
+}
+
+// Bytes which the skipping must not pass over, as they may begin a section or end a line:
+// opening brackets, zero and form feed. The last two look alike without two bits, as do 4
+// and 8, which are so rare that they may stop it, too.
+constexpr Word JoinZeroAndFormFeed(Word word) {
+  return word & ~InEachByte(kFormFeed);
+}
+
 constexpr Word MarkStops(Word word) {
-  return MarkOpeningBracket(word) | MarkZero(word) | MarkEqual(word, kFormFeed) |
-         MarkEqual(word, kSubstitute);
+  return MarkOpeningBracket(word) | MarkZero(JoinZeroAndFormFeed(word));
 }
 
 // Not zero exactly when MarkStops is not.
 constexpr Word HintStops(Word word) {
-  const Word hints = HintEqual(JoinOpeningBrackets(word), '{') | HintZero(word) |
-                     HintEqual(word, kFormFeed) | HintEqual(word, kSubstitute);
+  const Word hints =
+      HintEqual(JoinOpeningBrackets(word), '{') | HintZero(JoinZeroAndFormFeed(word));
   return hints & ~word & kTopBits;
 }
 
 // What one look at a chunk tells.
 struct ChunkLook {
-  size_t line_feeds = 0;
+  size_t line_ends = 0;
   bool has_stop = false;
 };
 
 ChunkLook LookAtChunk(const char* bytes) {
-  Word line_feeds = 0;
+  Word line_ends = 0;
   Word stops = 0;
   for (size_t i = 0; i < kChunkWords; ++i) {
     const Word word = LoadWord(bytes + i * kWordBytes);
     stops |= HintStops(word);
-    line_feeds += MarkEqual(word, '\n') >> 7;
+    line_ends += MarkLineEnds(word) >> 7;
   }
-  return {SumOfBytes(line_feeds), stops != 0};
+  return {SumOfBytes(line_ends), stops != 0};
 }
 
 // A closer look: the bytes up to the first stop (or the chunk's end), and the
-// line feeds among them.
+// line ends among them.
 struct StopLook {
-  size_t line_feeds = 0;
+  size_t line_ends = 0;
   size_t bytes = 0;
 };
 
@@ -63,11 +72,11 @@ StopLook LookForStop(const char* bytes) {
     const Word word = LoadWord(bytes + look.bytes);
     if (const Word stops = MarkStops(word); stops != 0) {
       const char* const stop = bytes + look.bytes + FirstMarked(stops);
-      look.line_feeds += static_cast<size_t>(std::count(bytes + look.bytes, stop, '\n'));
+      look.line_ends += static_cast<size_t>(std::count_if(bytes + look.bytes, stop, IsLineEnd));
       look.bytes = static_cast<size_t>(stop - bytes);
       break;
     }
-    look.line_feeds += CountMarked(MarkEqual(word, '\n'));
+    look.line_ends += CountMarked(MarkLineEnds(word));
   }
   return look;
 }
@@ -101,51 +110,18 @@ int LineReader::NextByte() {
 
 int32_t LineReader::Next(std::string_view& line) {
   const bool has_bytes = next_ != end_ || Refill();
-  const int32_t length =
-      has_bytes && LineInBlock(line) ? static_cast<int32_t>(line.size()) : LineByteByByte(line);
+  int32_t length = 0;
+  if (LineInBlock found; has_bytes && FindLineEnd(block_ + next_, found)) {
+    line = found.text;
+    next_ = static_cast<size_t>(found.next - block_);
+    length = static_cast<int32_t>(line.size());
+  } else {
+    length = LineByteByByte(line);
+  }
   if (length >= 0) {
     ++line_number_;
   }
   return length;
-}
-
-// Takes the next `bytes` bytes, of which the first `length` are the line, if the
-// block has so many.
-bool LineReader::Take(size_t length, size_t bytes, std::string_view& line) {
-  if (bytes > end_ - next_) {
-    return false;
-  }
-  line = {block_ + next_, length};
-  next_ += bytes;
-  return true;
-}
-
-// Takes a line that lies within the block, ends in LF or CR LF or at the maximum
-// and holds nothing that a copy would lose. The line feeds behind the block's
-// bytes end the search.
-bool LineReader::LineInBlock(std::string_view& line) {
-  const char* const start = block_ + next_;
-  const char* byte = start;
-  for (;;) {
-    const Word marks = MarkBelow(LoadWord(byte), kFirstPrintable);
-    if (marks == 0) {
-      byte += kWordBytes;
-      continue;
-    }
-    byte += FirstMarked(marks);
-    const auto length = static_cast<size_t>(byte - start);
-    if (length >= kLongestLine) {
-      return Take(kLongestLine, kLongestLine, line);
-    }
-    const size_t carriage_return = *byte == '\r' ? 1 : 0;
-    if (byte[carriage_return] == '\n') {
-      return Take(length, length + carriage_return + 1, line);
-    }
-    if (*byte == '\r' || *byte == '\0' || *byte == kFormFeed || *byte == kSubstitute) {
-      return false;
-    }
-    ++byte;  // a tab, or another control byte that stands for itself
-  }
 }
 
 int32_t LineReader::LineByteByByte(std::string_view& line) {
@@ -159,26 +135,26 @@ int32_t LineReader::LineByteByByte(std::string_view& line) {
 
 void LineReader::SkipLinesWithoutBracket() {
   size_t at = next_;
-  size_t line_feeds = 0;
+  size_t line_ends = 0;
   size_t chunks_without = 0;
   while (at + kChunk <= end_ && chunks_without < kSuspiciousChunks) {
     const ChunkLook chunk = LookAtChunk(block_ + at);
     if (chunk.has_stop) {
       const StopLook look = LookForStop(block_ + at);
-      line_feeds += look.line_feeds;
+      line_ends += look.line_ends;
       at += look.bytes;
       break;
     }
-    line_feeds += chunk.line_feeds;
+    line_ends += chunk.line_ends;
     at += kChunk;
-    chunks_without = chunk.line_feeds == 0 ? chunks_without + 1 : 0;
+    chunks_without = chunk.line_ends == 0 ? chunks_without + 1 : 0;
   }
   // Back to the start of the line in which the looking stopped.
-  while (at > next_ && block_[at - 1] != '\n') {
+  while (at > next_ && !IsLineEnd(block_[at - 1])) {
     --at;
   }
   next_ = at;
-  line_number_ += static_cast<int32_t>(line_feeds);
+  line_number_ += static_cast<int32_t>(line_ends);
 }
 
 }  // namespace sys_context

@@ -127,28 +127,54 @@ void CopyValue(std::string_view text, char* value) {
   value[text.size()] = '\0';
 }
 
-// Whether `text` is an entry, but certainly not of `key`: spares most entries
-// the splitting. One character tells, the last of the key, as the keys of a list
-// differ in their numbers.
-bool IsOtherEntry(std::string_view text, std::string_view key) {
-  const size_t length = key.size();
-  if (length == 0 || (text.size() >= length && text[length - 1] == key.back())) {
-    return false;
+// Knows entries that are certainly not of a key, which spares most lines of a section a
+// closer look.
+class OtherEntries {
+ public:
+  explicit OtherEntries(std::string_view key) : key_(key) {}
+
+  bool operator()(std::string_view line) {
+    return !line.empty() && IsOrdinary(line.front()) && line.back() != '+' &&
+           !IsBlank(line.back()) && !MayBeOfKey(line) && HasEqualSign(line);
   }
-  const size_t equal_sign = text.find('=');
-  return equal_sign != 0 && equal_sign != std::string_view::npos;
-}
+
+ private:
+  // Blanks, ";" and "=" are not above "="; nor are digits, but few keys begin with one.
+  static bool IsOrdinary(char first) { return first > '=' && first != '[' && first != '{'; }
+
+  // The last character is looked at first: the keys of a list differ in their numbers.
+  bool MayBeOfKey(std::string_view line) const {
+    return key_.empty() || (line.size() >= key_.size() && line[key_.size() - 1] == key_.back() &&
+                            std::memcmp(line.data(), key_.data(), key_.size()) == 0);
+  }
+
+  // In most lines it stands where it stood in the one before.
+  bool HasEqualSign(std::string_view line) {
+    if (equal_sign_ >= line.size() || line[equal_sign_] != '=') {
+      equal_sign_ = line.find('=');
+    }
+    return equal_sign_ != std::string_view::npos;
+  }
+
+  std::string_view key_;
+  size_t equal_sign_ = 0;
+};
 
 // Reads the entries of a section up to the one of `key`.
 int32_t FindKey(LineReader& lines, std::string_view key, char* value) {
   JoinedEntry joined;
+  OtherEntries others(key);
   for (;;) {
+    const int32_t lines_before = lines.line_number();
     std::string_view line;
-    if (const int32_t length = lines.Next(line); length < 0) {
+    const int32_t length = lines.NextBut(others, line);
+    if (lines.line_number() != lines_before) {  // also at the end, behind other entries
+      CFG_key_line_no = lines.line_number();
+      CFG_key_lines = 1;
+    }
+    if (length < 0) {
       return length == kLineReadError ? kReadError : kNoKey;
     }
-    CFG_key_line_no = lines.line_number();
-    CFG_key_lines = 1;
     std::string_view text = Trim(line);
     if (IsBlankOrComment(text)) {
       continue;
@@ -161,8 +187,6 @@ int32_t FindKey(LineReader& lines, std::string_view key, char* value) {
         return code;
       }
       text = joined.text();
-    } else if (IsOtherEntry(text, key)) {
-      continue;
     }
     Entry entry;
     if (SplitEntry(text, entry) != Split::kEntry) {

@@ -51,14 +51,19 @@ constexpr Word MarkOpeningBracket(Word word) {
   return MarkEqual(JoinOpeningBrackets(word), '{');
 }
 
-// Cheaper than a mark, and enough to know whether there is any: the top bit of
-// a zero byte is set; so may be that of a byte next to one, or above 0x80.
+// Cheaper than a mark, and enough to know whether there is any: cleared of the top bits of
+// the word, it is not zero exactly when the mark is not. Which byte it was, it does not tell.
 constexpr Word HintZero(Word word) {
   return word - kEachByteOne;
 }
 
 constexpr Word HintEqual(Word word, char c) {
   return HintZero(word ^ InEachByte(c));
+}
+
+// The same for bytes below `limit`, which is at most 0x80.
+constexpr Word HintBelow(Word word, char limit) {
+  return word - InEachByte(limit);
 }
 
 // The sum of a word's bytes; at most 255.

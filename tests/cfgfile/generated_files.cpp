@@ -12,8 +12,8 @@ using std::string_view;
 using std::literals::string_view_literals::operator""sv;
 
 constexpr string_view kSectionNames[] = {"A", "B", "", " A", "A ", "AB", "[", "A]", "\x80", "k=1"};
-constexpr string_view kKeyNames[] = {"k", "j", "kk", "k k",  "kj", "k=1",
-                                     "[", ";", "+",  "\xFF", "",   "k\f"};
+constexpr string_view kKeyNames[] = {"k",    "j", "kk",  "k k", "kj", "k=1", "[",     ";",     "+",
+                                     "\xFF", "",  "k\f", "9",   " k", "=",   "Port1", "Port11"};
 
 // Where a block of the reader may end: the first one is of 4 KB, the others of 8.
 constexpr size_t kBlockEnds[] = {4096, 4096, 4096, 8192, 12288, 12288, 20480};
@@ -28,10 +28,12 @@ constexpr string_view kTokens[] = {
     "\n k=5 +\n"sv, "\n;[A\n"sv};
 
 constexpr string_view kLines[] = {
-    "[A]"sv,    "[B]"sv,   "[A]"sv,  "{A}"sv,       "[ A]"sv,    "[]"sv,    "[AB"sv,
-    "k=1"sv,    "k = 2"sv, "j=3"sv,  " k\t=\t4 "sv, "kk=5"sv,    "k k=6"sv, "word"sv,
-    "; text"sv, ""sv,      " \t"sv,  "k=7+"sv,      "j=8 +"sv,   "+"sv,     "=9"sv,
-    "#"sv,      "x=[A]"sv, "y=10"sv, "kj=12"sv,     "jj\t=13"sv, "{B}"sv,   "\tz = a=b"sv};
+    "[A]"sv,        "[B]"sv,     "[A]"sv,    "{A}"sv,       "[ A]"sv,      "[]"sv,
+    "[AB"sv,        "k=1"sv,     "k = 2"sv,  "j=3"sv,       " k\t=\t4 "sv, "kk=5"sv,
+    "k k=6"sv,      "word"sv,    "; text"sv, ""sv,          " \t"sv,       "k=7+"sv,
+    "j=8 +"sv,      "+"sv,       "=9"sv,     "#"sv,         "x=[A]"sv,     "y=10"sv,
+    "kj=12"sv,      "jj\t=13"sv, "{B}"sv,    "\tz = a=b"sv, "Port1=1"sv,   "Port11 = 2"sv,
+    "Port2\t=+ "sv, "9=1"sv,     ">=2"sv,    "Name"sv};
 
 // Line ends, the usual ones more often.
 constexpr string_view kLineEnds[] = {"\n"sv, "\n"sv,   "\n"sv,   "\n"sv,    "\n"sv,

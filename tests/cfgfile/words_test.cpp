@@ -44,6 +44,10 @@ void CheckHints(Word word) {
           << std::hex << word << " " << int{sought};
     }
   }
+  for (const char limit : kLimits) {
+    ASSERT_EQ(Hinted(HintBelow(word, limit), word), MarkBelow(word, limit) != 0)
+        << std::hex << word << " " << int{limit};
+  }
   const Word joined = JoinOpeningBrackets(word);
   ASSERT_EQ(Hinted(HintEqual(joined, '{'), word), MarkOpeningBracket(word) != 0)
       << std::hex << word;
