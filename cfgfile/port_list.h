@@ -7,10 +7,10 @@
 #include <optional>
 
 #include "cfgfile/keys.h"
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/memory.h"
 #include "common/messages.h"
+#include "common/table_queries.h"
 
 namespace sys_context {
 

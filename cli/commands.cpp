@@ -105,7 +105,8 @@ int32_t ddUploadContextFile_Func(CommandRecord*, void* vty, int32_t argc, char**
   return kOk;
 }
 
-// kept as is: the command ends in a blank, the help has words of its own.
+// kept as is: the command ends in a blank, the help has words of its own, "protocal" and
+// "contex" among them.
 COMMAND(ddUploadContextFile_CMD, ddUploadContextFile_Func,
         "upload ftp context <A.B.C.D> <username> <password> <filename> ",
         "Upload file for context file.\nUpload file to ftp server use ftp protocal.\n"

@@ -42,7 +42,8 @@ constexpr FileCommand kUpload = {
 };
 
 // Fetches the file and hands its text to `use(text, length)`; a failure is written to the
-// terminal. kept as is: most are no failure to the caller.
+// terminal.
+// kept as is: most are no failure to the caller.
 template <typename Use>
 int32_t WithStoredText(const FileCommand& command, void* vty, Use use) {
   const auto image = NewArray<char>(kStoredTextCapacity);

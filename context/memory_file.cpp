@@ -38,7 +38,8 @@ FetchedFile FetchForMemoryFile(char* image, uint8_t* text) {
   return file;
 }
 
-// kept as is: only a failing close is told to the caller, and it is tried twice.
+// kept as is: only a failing close is told to the caller, and it is tried twice; one
+// message names /sdram, whatever the path, and one shows a line of code.
 int32_t WriteMemoryFile(const uint8_t* text, uint32_t length) {
   constexpr mode_t kNoPermissions = 0;
   const int descriptor = open(strDeviceDefFilePath, O_RDWR | O_CREAT | O_TRUNC, kNoPermissions);

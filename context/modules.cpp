@@ -4,12 +4,12 @@
 
 #include "cfgfile/keys.h"
 #include "cfgfile/named_sections.h"
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/memory.h"
 #include "common/messages.h"
 #include "common/names.h"
 #include "common/numbers.h"
+#include "common/table_queries.h"
 #include "sys_context/context.h"
 
 constinit ModuleTypeList gstModuleTypeList = {};

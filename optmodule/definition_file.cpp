@@ -77,6 +77,7 @@ int32_t optmodule_defines_fileparse() {
   using namespace sys_context;
   const int32_t code = optmodule_infolist_read(kOpticalDefinitionFile);
   if (code < 0) {
+    // kept as is: "failded".
     Log(LogLevel::kWholeFile, "%s:read failded ,ret = %d.\r\n", "optmodule_defines_fileparse",
         code);
   }

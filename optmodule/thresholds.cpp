@@ -1,7 +1,7 @@
 // The power limits of the optical module in a port, or in an ONU.
 #include "common/card_kinds.h"
-#include "common/catalog.h"
 #include "common/codes.h"
+#include "common/table_queries.h"
 #include "optmodule/log.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"

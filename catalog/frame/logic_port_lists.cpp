@@ -1,8 +1,7 @@
 // Lists of logic ports: those of a slot, of uplink cards, of all users.
 #include <algorithm>
-#include <iterator>
 
-#include "catalog/frame/logic_port.h"
+#include "catalog/frame/logic_port_list.h"
 #include "common/card_kinds.h"
 #include "common/codes.h"
 #include "common/messages.h"
@@ -10,58 +9,29 @@
 namespace sys_context {
 namespace {
 
-// How the place of an entry becomes its number.
-using NumberOf = int32_t (*)(uint32_t index, uint32_t* number);
-
-// One list, and in what its builder differs from the others.
-template <typename Entry>
-struct List {
-  const char* name;  // as the messages show it
-  const LogicPortTable<Entry>& table;
-  NumberOf number_of;
-
-  uint32_t limit = MAX_SWITCH_CHIP_LOGIC_PORT_NUM;  // of entries
-  int32_t above_limit_code = kTooManyLogicPorts;
-  int32_t empty_code = kEmptyList;
-
-  // Each shows the name first.
-  // Then: the array, the amount.
-  Message<const char*, uint32_t, uint32_t> null_argument =
-      "\r\n%s err! pulChipLogicPort = 0x%x, pulChipPortCnt = 0x%x";
-  // The count, the limit.
-  PartialMessage<const char*, uint32_t, uint32_t> above_limit =
-      "\r\n%s err! ulSwitchChipLogicPortNum = %d";
-  // The room, the numbers found.
-  Message<const char*, uint32_t, uint32_t> too_small =
-      "\r\n%s err! the range of list is small! ulPortListCnt = %d, realCnt = %d.";
-  // The room, 0. kept as is: an empty list is said to be too small.
-  PartialMessage<const char*, uint32_t, uint32_t> empty =
-      "\r\n%s err! the range of list is small! ulPortListCnt = %d, realCnt = %d.";
-};
-
-constexpr List<PlainEntry> kOfSlotPort = {
+constexpr LogicPortList<PlainEntry> kOfSlotPort = {
     .name = "get_switch_logicportlist_from_slotport",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
 };
-constexpr List<PlainEntry> kOfSlot = {
+constexpr LogicPortList<PlainEntry> kOfSlot = {
     .name = "get_switch_logicportlist_from_slot",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
 };
-constexpr List<BalanceEntry> kBalanceOfSlot = {
+constexpr LogicPortList<BalanceEntry> kBalanceOfSlot = {
     .name = "get_balance_switch_logicportlist_from_slot",
     .table = kBalanceTable,
     .number_of = get_balance_switch_logicport_portno_from_index,
 };
 // kept as is: its limit is lower than that of its relatives.
-constexpr List<BalanceEntry> kBalanceOfSlotPort = {
+constexpr LogicPortList<BalanceEntry> kBalanceOfSlotPort = {
     .name = "get_balance_switch_logicportlist_from_slotport",
     .table = kBalanceTable,
     .number_of = get_balance_switch_logicport_portno_from_index,
     .limit = MAX_TYPEB_SWITCH_CHIP_LOGIC_PORT_NUM,
 };
-constexpr List<BalanceEntry> kHigig = {
+constexpr LogicPortList<BalanceEntry> kHigig = {
     .name = "get_higicport_balance_switch_logicportlist",
     .table = kBalanceTable,
     .number_of = get_balance_switch_logicport_portno_from_index,
@@ -69,42 +39,28 @@ constexpr List<BalanceEntry> kHigig = {
     .null_argument = "\r\n%s err! pulHigigPortList = 0x%x, pulChipPortCnt = 0x%x",
     .empty = "\r\n%s err! the system has no higig port! realCnt = 0.",
 };
-constexpr List<PlainEntry> kUplinkOfSlot = {
+constexpr LogicPortList<PlainEntry> kUplinkOfSlot = {
     .name = "ddGetUplinkPortLogicPortListFromSlot",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
 };
-// The lists of all uplink ports share these texts.
-constexpr Message<const char*, uint32_t, uint32_t> kUplinkNullArgument =
-    "\r\n%s: pointer is null! pulSlotArray = 0x%x, pulPortAmount = 0x%x\r\n";
-constexpr Message<const char*, uint32_t, uint32_t> kUplinkTooSmall =
-    "\r\n%s: array space is not enough! ulArrayAmount = %d, ulUplinkLogicPortCount = %d";
-
-constexpr List<PlainEntry> kUplinkOnly = {
+constexpr LogicPortList<PlainEntry> kUplinkOnly = {
     .name = "ddGetUplinkLogicPortListOnly",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
     .null_argument = kUplinkNullArgument,
     .too_small = kUplinkTooSmall,
 };
-constexpr List<PlainEntry> kUplink = {
-    .name = "ddGetUplinkLogicPortList",
-    .table = kPlainTable,
-    .number_of = get_switch_chip_logicport_portno_from_index,
-    .null_argument = kUplinkNullArgument,
-    .above_limit = "\r\n%s: SwitchChipLogicPortNum(%d) is out of range(%d)!\r\n",
-    .too_small = kUplinkTooSmall,
-};
-constexpr List<PlainEntry> kNonzeroPort = {
+constexpr LogicPortList<PlainEntry> kNonzeroPort = {
     .name = "ddGetNonzeroPortSwitchChipLogicPortList",
     .table = kPlainTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
     .too_small = "\r\n%s err! ulArrayAmount = %d, ulChipLogicPortCount = %d",
 };
 // kept as is: its messages name ddGetNonzeroPortSwitchChipLogicPortList.
-constexpr List<PlainEntry> kAllUserPort = kNonzeroPort;
+constexpr LogicPortList<PlainEntry> kAllUserPort = kNonzeroPort;
 // kept as is: the entries get the numbers of ordinary logic ports.
-constexpr List<BalanceEntry> kBalanceUserPort = {
+constexpr LogicPortList<BalanceEntry> kBalanceUserPort = {
     .name = "get_balance_user_port_switch_logicportlist",
     .table = kBalanceTable,
     .number_of = get_switch_chip_logicport_portno_from_index,
@@ -116,39 +72,9 @@ constexpr List<BalanceEntry> kBalanceUserPort = {
 
 // ---- What the builders share -----------------------------------------------------
 
-template <typename Entry>
-int32_t CheckArguments(const List<Entry>& list, const uint32_t* numbers, const uint32_t* amount) {
-  if (numbers == nullptr || amount == nullptr) {
-    Report(Gate::kDebug, list.null_argument, list.name, LowBits(numbers), LowBits(amount));
-    return kNullArgument;
-  }
-  return kOk;
-}
-
-template <typename Entry>
-int32_t CheckCount(const List<Entry>& list) {
-  if (const uint32_t count = gstFrame.*list.table.count; count > list.limit) {
-    Report(Gate::kDebug, list.above_limit, list.name, count, list.limit);
-    return list.above_limit_code;
-  }
-  return kOk;
-}
-
-template <typename Entry>
-int32_t Check(const List<Entry>& list, const uint32_t* numbers, const uint32_t* amount) {
-  const int32_t code = CheckArguments(list, numbers, amount);
-  return code != kOk ? code : CheckCount(list);
-}
-
-template <typename Entry>
-int32_t RefuseTooSmall(const List<Entry>& list, uint32_t room, uint32_t found) {
-  Report(Gate::kDebug, list.too_small, list.name, room, found);
-  return kListTooSmall;
-}
-
 // Stores the number of the entry at `index`, if it has one.
 template <typename Entry>
-void StoreNumber(const List<Entry>& list, uint32_t index, uint32_t& stored) {
+void StoreNumber(const LogicPortList<Entry>& list, uint32_t index, uint32_t& stored) {
   uint32_t number = 0;
   if (list.number_of(index, &number) == kOk) {
     stored = number;
@@ -156,7 +82,7 @@ void StoreNumber(const List<Entry>& list, uint32_t index, uint32_t& stored) {
 }
 
 template <typename Entry>
-int32_t Finish(const List<Entry>& list, uint32_t room, uint32_t found, uint32_t* amount) {
+int32_t Finish(const LogicPortList<Entry>& list, uint32_t room, uint32_t found, uint32_t* amount) {
   *amount = found;
   if (found == 0) {
     Report(Gate::kDebug, list.empty, list.name, room, found);
@@ -167,8 +93,8 @@ int32_t Finish(const List<Entry>& list, uint32_t room, uint32_t found, uint32_t*
 
 // Stores the numbers of the entries that fulfil `wanted`, until there is no room.
 template <typename Entry, typename Wanted>
-int32_t Collect(const List<Entry>& list, uint32_t* numbers, uint32_t room, uint32_t* amount,
-                Wanted wanted) {
+int32_t Collect(const LogicPortList<Entry>& list, uint32_t* numbers, uint32_t room,
+                uint32_t* amount, Wanted wanted) {
   uint32_t found = 0;
   for (uint32_t i = 0; i < gstFrame.*list.table.count; ++i) {
     if (!wanted((gstFrame.*list.table.entries)[i])) {
@@ -183,14 +109,14 @@ int32_t Collect(const List<Entry>& list, uint32_t* numbers, uint32_t room, uint3
 }
 
 template <typename Entry, typename Wanted>
-int32_t CheckAndCollect(const List<Entry>& list, uint32_t* numbers, uint32_t room, uint32_t* amount,
-                        Wanted wanted) {
+int32_t CheckAndCollect(const LogicPortList<Entry>& list, uint32_t* numbers, uint32_t room,
+                        uint32_t* amount, Wanted wanted) {
   const int32_t code = Check(list, numbers, amount);
   return code != kOk ? code : Collect(list, numbers, room, amount, wanted);
 }
 
 template <typename Entry, typename Wanted>
-uint32_t Count(const List<Entry>& list, Wanted wanted) {
+uint32_t Count(const LogicPortList<Entry>& list, Wanted wanted) {
   const Entry* const entries = gstFrame.*list.table.entries;
   return static_cast<uint32_t>(
       std::count_if(entries, entries + gstFrame.*list.table.count, wanted));
@@ -198,7 +124,7 @@ uint32_t Count(const List<Entry>& list, Wanted wanted) {
 
 // Stores them only if there is room for all.
 template <typename Wanted>
-int32_t CountAndCollect(const List<PlainEntry>& list, uint32_t* numbers, uint32_t room,
+int32_t CountAndCollect(const LogicPortList<PlainEntry>& list, uint32_t* numbers, uint32_t room,
                         uint32_t* amount, Wanted wanted) {
   if (const uint32_t found = Count(list, wanted); found > room) {
     return RefuseTooSmall(list, room, found);
@@ -262,39 +188,6 @@ bool IsUserPort(const BalanceEntry& entry) {
   const bool in_uplink_slot = ddIsUplinkBoardSlot(entry.ucSlotOut, &is_true) == kOk;
   return in_uplink_slot || (in_service_slot && entry.ucSlotPort == 0);
 }
-
-// The logic ports of all uplink and Ethernet cards, slot by slot.
-class UplinkPorts {
- public:
-  void AddSlot(uint32_t slot) {
-    const int32_t card_type = get_config_card_type(slot);
-    if (!IsCard(card_type)) {
-      return;
-    }
-    const bool is_uplink_card = IsCardOfKind(card_type, caCheckCardTypeIsUplinkCard);
-    const bool is_ethernet_card = IsCardOfKind(card_type, caCheckCardTypeIsEthCard);
-    if (is_uplink_card || is_ethernet_card) {
-      AddPorts(slot, is_ethernet_card ? kEthernetFlag : kOtherFlag);
-    }
-  }
-
-  const uint32_t* numbers() const { return numbers_; }
-  uint32_t count() const { return count_; }
-
- private:
-  void AddPorts(uint32_t slot, uint8_t flag) {
-    for (uint32_t i = 0; i < gstFrame.ulSwitchChipLogicPortNum; ++i) {
-      const PlainEntry& entry = gstFrame.astSwitchChipLogicPort[i];
-      if (entry.ucSlotOut == slot && entry.ucSlotPort != 0 && entry.ucSlotFlag == flag &&
-          count_ < std::size(numbers_)) {
-        numbers_[count_++] = i + 1;
-      }
-    }
-  }
-
-  uint32_t numbers_[MAX_SWITCH_CHIP_LOGIC_PORT_NUM];
-  uint32_t count_ = 0;
-};
 
 }  // namespace
 }  // namespace sys_context
@@ -427,29 +320,4 @@ int32_t get_balance_user_port_switch_logicportlist(uint32_t* pulChipLogicPort,
     return RefuseTooSmall(kNonzeroPort, ulArrayAmount, found);
   }
   return Collect(kBalanceUserPort, pulChipLogicPort, ulArrayAmount, pulChipPortCnt, IsUserPort);
-}
-
-int32_t ddGetUplinkLogicPortList(uint32_t* pulSlotArray, uint32_t ulArrayAmount,
-                                 uint32_t* pulPortAmount) {
-  using namespace sys_context;
-  if (const int32_t code = Check(kUplink, pulSlotArray, pulPortAmount); code != kOk) {
-    return code;
-  }
-  uint32_t slots[MAX_SLOT_END];
-  uint32_t slot_count = 0;
-  if (const int32_t code = ddGetRealSlotList(slots, MAX_SLOT_END, &slot_count);
-      code < 0 || slot_count > MAX_SLOT_END) {
-    // kept as is: names the list of service slots.
-    DebugConsole("\r\n%s -> ddGetServeSlotList: ret = %d, serve_slot_cnt = %d!\r\n", kUplink.name,
-                 code, slot_count);
-    return kTooManySlots;
-  }
-  UplinkPorts ports;
-  std::for_each_n(slots, slot_count, [&](uint32_t slot) { ports.AddSlot(slot); });
-  if (ports.count() > ulArrayAmount) {
-    return RefuseTooSmall(kUplink, ulArrayAmount, ports.count());
-  }
-  std::copy_n(ports.numbers(), ports.count(), pulSlotArray);
-  *pulPortAmount = ports.count();
-  return kOk;
 }

@@ -26,7 +26,12 @@ int32_t CheckOutput(const char* name, const Message<const char*, uint32_t>& refu
   return kOk;
 }
 
-int32_t CheckCount(const char* name, uint32_t count) {
+// Refuses a count above the limit, too.
+int32_t Check(const char* name, const Message<const char*, uint32_t>& refusal,
+              const uint32_t* output, uint32_t count) {
+  if (const int32_t code = CheckOutput(name, refusal, output); code != kOk) {
+    return code;
+  }
   if (count > MAX_SWITCH_CHIP_LOGIC_PORT_NUM) {
     DebugConsole("\r\n%s err! ulSwitchChipLogicPortNum = %d, MAX_SWITCH_CHIP_LOGIC_PORT_NUM = %d",
                  name, count, MAX_SWITCH_CHIP_LOGIC_PORT_NUM);
@@ -36,10 +41,7 @@ int32_t CheckCount(const char* name, uint32_t count) {
 }
 
 int32_t GetAmount(const char* name, uint32_t count, uint32_t* amount) {
-  if (const int32_t code = CheckOutput(name, kNullAmount, amount); code != kOk) {
-    return code;
-  }
-  if (const int32_t code = CheckCount(name, count); code != kOk) {
+  if (const int32_t code = Check(name, kNullAmount, amount, count); code != kOk) {
     return code;
   }
   *amount = count;
@@ -54,10 +56,7 @@ int32_t get_switch_chip_logicport_portno_from_index(uint32_t ulChipIndex,
   using namespace sys_context;
   constexpr char kName[] = "get_switch_chip_logicport_portno_from_index";
   const uint32_t count = gstFrame.ulSwitchChipLogicPortNum;
-  if (const int32_t code = CheckOutput(kName, kNullNumber, puChipLogicPort); code != kOk) {
-    return code;
-  }
-  if (const int32_t code = CheckCount(kName, count); code != kOk) {
+  if (const int32_t code = Check(kName, kNullNumber, puChipLogicPort, count); code != kOk) {
     return code;
   }
   if (ulChipIndex >= count) {
@@ -74,10 +73,7 @@ int32_t get_switch_chip_logicport_index_from_portno(uint32_t ulChipLogicPort,
   using namespace sys_context;
   constexpr char kName[] = "get_switch_chip_logicport_index_from_portno";
   const uint32_t count = gstFrame.ulSwitchChipLogicPortNum;
-  if (const int32_t code = CheckOutput(kName, kNullIndex, puChipIndex); code != kOk) {
-    return code;
-  }
-  if (const int32_t code = CheckCount(kName, count); code != kOk) {
+  if (const int32_t code = Check(kName, kNullIndex, puChipIndex, count); code != kOk) {
     return code;
   }
   if (ulChipLogicPort == 0 || ulChipLogicPort > count) {

@@ -86,6 +86,7 @@ constexpr TableReader<BalanceEntry> kBalance = {
         [](uint32_t index, uint32_t& number) {
           const int32_t code = get_balance_switch_logicport_portno_from_index(index, &number);
           if (code != kOk) {
+            // kept as is: "Logci".
             Console(
                 "\r\nread_balance_switch_logicport_to_portinfo err! iResult = %d, ulChipLogciIndex = %d",
                 code, index);

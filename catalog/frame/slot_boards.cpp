@@ -22,6 +22,7 @@ constexpr uint32_t kHcuBoardType = 624;
 }  // namespace
 }  // namespace sys_context
 
+// kept as is: its messages name ddCanBoardPlugInSlot, a function that there is not.
 int32_t ddCanBoardPlugInSlotByType(uint32_t ulSlotOut, uint32_t ulBoardType,
                                    uint32_t* pulCanPlugIn) {
   using namespace sys_context;

@@ -11,6 +11,7 @@ namespace {
 int32_t GetList(const char* name, const SlotClassInformation& slots, uint32_t* list, uint32_t room,
                 uint32_t* amount) {
   if (list == nullptr || amount == nullptr) {
+    // kept as is: here and below, a pointer is shown with %d.
     DebugConsole("\r\n%s err! pulSlotArray = 0x%x, pulSlotAmount = %d", name, LowBits(list),
                  LowBits(amount));
     return kNullArgument;
@@ -30,6 +31,7 @@ int32_t ddGetBoardSlotList(const SlotClassInformation* pstSlotClass, uint32_t* p
                            uint32_t ulArrayAmount, uint32_t* pulSlotAmount) {
   using namespace sys_context;
   if (pstSlotClass == nullptr || pulSlotArray == nullptr || pulSlotAmount == nullptr) {
+    // kept as is: "SlotSlot".
     DebugConsole(
         "\r\nddGetBoardSlotList err! pstSlotClass = 0x%x, pulSlotArray = 0x%x, pulSlotSlotAmount = %d",
         LowBits(pstSlotClass), LowBits(pulSlotArray), LowBits(pulSlotAmount));
@@ -64,8 +66,9 @@ SLOT_LIST(ddGetPowerSlotList, stPowerSlot)
 SLOT_LIST(ddGetCioSlotList, stCioSlot)
 SLOT_LIST(ddGetHcuSlotList, stHcuSlot)
 
-// kept as is: the prefix is doubled in one message, the virtual slots are not checked
-// against the room left, and what cannot be listed is left out with success.
+// kept as is: the prefix is doubled in one message, another names ddGetVirtualSlotList,
+// the virtual slots are not checked against the room left, and what cannot be listed is
+// left out with success.
 int32_t ddGetAllSlotList(uint32_t* pulSlotArray, uint32_t ulArrayAmount, uint32_t* pulSlotAmount) {
   using namespace sys_context;
   if (pulSlotArray == nullptr || pulSlotAmount == nullptr) {

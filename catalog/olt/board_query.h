@@ -4,9 +4,9 @@
 
 #include <optional>
 
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/messages.h"
+#include "common/table_queries.h"
 #include "sys_context/olt.h"
 
 namespace sys_context {

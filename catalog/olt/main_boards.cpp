@@ -81,6 +81,7 @@ int32_t ddReadOneSupportedMainBoardInformation(const char* strFileName,
                                                MainBoardInformation** pBoardTypeObjAddr) {
   using namespace sys_context;
   if (strFileName == nullptr || strBoardTypeSection == nullptr || pBoardTypeObjAddr == nullptr) {
+    // kept as is: two of the arguments are called otherwise.
     Console(
         "\r\nddReadOneSupportedMainBoardInformation err! strFileName = 0x%x, strOltPonTypeSection = 0x%x, pOltPonTypeObjAddr = 0x%x",
         LowBits(strFileName), LowBits(strBoardTypeSection), LowBits(pBoardTypeObjAddr));

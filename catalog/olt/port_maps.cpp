@@ -117,6 +117,7 @@ int32_t ddReadAllSwitchChipLogicPortToPhyPort(const char* strFileName,
   using namespace sys_context;
   if (strFileName == nullptr || strBoardTypeSection == nullptr ||
       pstMainBoardInformation == nullptr) {
+    // kept as is: here and below, no argument is called strOltPonTypeSection.
     Console(
         "\r\nddReadAllSwitchChipLogicPortToPhyPort err! strFileName = 0x%x, strOltPonTypeSection = 0x%x, pstMainBoardInformation = 0x%x",
         LowBits(strFileName), LowBits(strBoardTypeSection), LowBits(pstMainBoardInformation));

@@ -1,7 +1,7 @@
 // Questions about the OLT port types.
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/messages.h"
+#include "common/table_queries.h"
 #include "sys_context/olt.h"
 
 namespace sys_context {

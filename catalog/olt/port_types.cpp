@@ -1,11 +1,11 @@
 // The OLT port types: their loader, and copies of their records.
 #include "cfgfile/keys.h"
 #include "cfgfile/named_sections.h"
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/memory.h"
 #include "common/messages.h"
 #include "common/numbers.h"
+#include "common/table_queries.h"
 #include "sys_context/olt.h"
 
 constinit SupportedOltPortType gstSupportedOltPortType = {};

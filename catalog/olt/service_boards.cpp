@@ -66,6 +66,7 @@ constexpr OwnerReader<BoardInformation, 2> kReader = {
              "\r\nddReadOneSupportedBoardInformation->ddAddSupportedSpecialPortToBoardObj err! strBoardTypeSection = %s"},
         },
     .release = ddFreeOneBoardAllObj,
+    // kept as is: two of the arguments are called otherwise.
     .null_argument =
         "\r\nddReadOneSupportedBoardInformation err! strFileName = 0x%x, strOltPonTypeSection = 0x%x, pOltPonTypeObjAddr = 0x%x",
     .negative_start = "\r\nddReadOneSupportedBoardInformation err! iOffsetIn = %d",
@@ -82,8 +83,10 @@ int32_t ddReadAllSupportedBoardInformation(const char* strFileName) {
       [](const Source& source, const char* section, BoardInformation** board) {
         return ddReadOneSupportedBoardInformation(source.file(), section, source.start(), board);
       });
-  const bool none_announced = code == kOk && table.pBoardTypeArray == nullptr;
-  return code != kOk || none_announced ? code : FindMaxPonBoard();
+  if (code != kOk || table.pBoardTypeArray == nullptr) {
+    return code;
+  }
+  return FindMaxPonBoard();
 }
 
 int32_t ddReadOneSupportedBoardInformation(const char* strFileName, const char* strBoardTypeSection,

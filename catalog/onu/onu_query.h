@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/messages.h"
+#include "common/table_queries.h"
 #include "sys_context/onu.h"
 #include "sys_context/platform.h"
 

@@ -50,6 +50,7 @@ constexpr ListSection kOnuTypeList = {
 int32_t FindMaxLanType() {
   const int32_t code = ddFindSupportedOnuMaxLanNum();
   if (code != kOk) {
+    // kept as is: an n too many.
     Console("\r\nnddReadAllSupportedOnuInformation->ddFindSupportedOnuMaxLanNum err!");
   }
   return code;
@@ -97,8 +98,10 @@ int32_t ddReadAllSupportedOnuInformation(const char* strFileName) {
       [](const Source& source, const char* section, OnuInformation** onu) {
         return ddReadOneSupportedOnuInformation(source.file(), section, source.start(), onu);
       });
-  const bool none_announced = code == kOk && table.pOnuTypeArray == nullptr;
-  return code != kOk || none_announced ? code : FindMaxLanType();
+  if (code != kOk || table.pOnuTypeArray == nullptr) {
+    return code;
+  }
+  return FindMaxLanType();
 }
 
 int32_t ddReadOneSupportedOnuInformation(const char* strFileName, const char* strOnuTypeSection,

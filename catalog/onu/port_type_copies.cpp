@@ -1,13 +1,13 @@
 // Copies of the ONU port types.
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/messages.h"
+#include "common/table_queries.h"
 #include "sys_context/onu.h"
 
 namespace sys_context {
 namespace {
 
-// kept as is: three messages show names that the functions do not have any more.
+// kept as is: three messages show names that no function has.
 constexpr CopyQuery kPonCopy = {
     .gate = Gate::kDebug,
     .last_index = MAX_ONU_PON_TYPE_NUM,

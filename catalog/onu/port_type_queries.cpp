@@ -2,9 +2,9 @@
 #include <optional>
 
 #include "catalog/onu/port_type_catalogs.h"
-#include "common/catalog.h"
 #include "common/codes.h"
 #include "common/messages.h"
+#include "common/table_queries.h"
 #include "sys_context/onu.h"
 
 namespace sys_context {

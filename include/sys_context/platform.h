@@ -5,7 +5,8 @@
  * malloc, printf, ...), and a host may put its own in front of those.
  *
  * Strings and buffers given to the host are valid during the call only, but
- * for command records and module names, which stay for ever.
+ * for command records and module names, which stay for ever. Queries call these
+ * functions on the thread that asks, so they may be called from several at once.
  */
 #ifndef SYS_CONTEXT_PLATFORM_H
 #define SYS_CONTEXT_PLATFORM_H
@@ -102,7 +103,8 @@ SYS_CONTEXT_API int32_t get_core_card_self_cardnumber(void);
 /* The type of the fitted main card. */
 SYS_CONTEXT_API int32_t get_core_card_detect_type(void);
 
-/* 0: the card type is of that kind. */
+/* 0: the card type is of that kind. ddInit asks whether it is a PON card's of the type of
+ * each service board that it loads, fitted or not. */
 SYS_CONTEXT_API int32_t caCheckCardTypeIsEthCard(int16_t cardType);
 SYS_CONTEXT_API int32_t caCheckCardTypeIsPonCard(int16_t cardType);
 SYS_CONTEXT_API int32_t caCheckCardTypeIsServiceCard(int16_t cardType);

@@ -1,6 +1,6 @@
 // What the queries do with a table: finding a record, finding a name, and copying the
 // record of a name.
-#include "common/catalog.h"
+#include "common/table_queries.h"
 
 #include <cstdint>
 #include <cstdlib>
