@@ -4,6 +4,7 @@
 file(STRINGS ${PROJECT_SOURCE_DIR}/abi/exports.txt SYS_CONTEXT_EXPORTS REGEX "^[TD] ")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS abi/exports.txt)
 list(TRANSFORM SYS_CONTEXT_EXPORTS REPLACE "^[TD] " "")
+set(SYS_CONTEXT_EXPORT_NAMES ${SYS_CONTEXT_EXPORTS})
 list(JOIN SYS_CONTEXT_EXPORTS ";\n    " SYS_CONTEXT_EXPORTS)
 set(SYS_CONTEXT_VERSION_SCRIPT ${PROJECT_BINARY_DIR}/exports.map)
 configure_file(cmake/exports.map.in ${SYS_CONTEXT_VERSION_SCRIPT} @ONLY)
@@ -17,7 +18,12 @@ function(sys_context_folder name)
   target_link_libraries(sys_context_${name} PRIVATE sys_context_headers sys_context_warnings)
   target_include_directories(sys_context_${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_options(sys_context_${name} PRIVATE
-    $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti -fno-threadsafe-statics>)
+    # Hosts put functions in front of the C library's by their names, fopen and printf: these
+    # flags, which distributions give, would call fopen64 and __printf_chk.
+    -U_FILE_OFFSET_BITS -U_TIME_BITS -U_FORTIFY_SOURCE
+    $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti -fno-threadsafe-statics>
+    # Who calls whom with how much stack, beside the objects: for scripts/measure-stack.
+    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fcallgraph-info=su>)
   set_target_properties(sys_context_${name} PROPERTIES
     POSITION_INDEPENDENT_CODE ON
     C_VISIBILITY_PRESET hidden
@@ -45,7 +51,7 @@ function(sys_context_library name)
   # The compiler's own code, such as a division on ARM, comes in front of the last area.
   # As a flag, the area keeps its place behind the libraries.
   target_link_libraries(${name}
-    PUBLIC sys_context_headers
+    PUBLIC $<BUILD_INTERFACE:sys_context_headers>
     PRIVATE gcc -Wl,$<TARGET_OBJECTS:sys_context_reserved_area_1>)
   add_dependencies(${name} sys_context_reserved_area_1)
   target_link_options(${name} PRIVATE -Wl,--version-script=${SYS_CONTEXT_VERSION_SCRIPT})
@@ -55,8 +61,9 @@ function(sys_context_library name)
 endfunction()
 
 sys_context_library(sys_context)
+add_library(sys_context::sys_context ALIAS sys_context)
 set_target_properties(sys_context PROPERTIES
-  VERSION 1.0.0 SOVERSION 1)  # of the interface, not of the project
+  VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 
 # The host provides the platform functions, so the library itself cannot be
 # linked with -z defs. This twin can: it holds stand-ins for exactly those, and

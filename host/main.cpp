@@ -17,6 +17,7 @@
 #include "host/modules.h"
 #include "host/options.h"
 #include "host/pack.h"
+#include "host/sample_root.h"
 #include "host/session.h"
 #include "host/startup.h"
 #include "host/telnet_server.h"
@@ -132,7 +133,7 @@ int Main(const std::vector<std::string>& arguments) {
     return PackFile(options.files.at(0), options.files.at(1));
   }
   ddDebugPrint = options.debug ? 1 : 0;
-  OpenRoot(options.root.empty() ? SYSCTX_DEFAULT_ROOT : options.root);
+  OpenRoot(options.root.empty() ? SampleRoot() : options.root);
   curl_global_init(CURL_GLOBAL_DEFAULT);
   if (options.action == Action::kRun) {
     return RunOne(options.command);
