@@ -2,9 +2,8 @@
 #include "fuzz/definition_file.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <string>
 
+#include "fuzz/ask_sweeps.h"
 #include "fuzz/hostile_names.h"
 #include "fuzz/platform.h"
 #include "fuzz/show.h"
@@ -16,7 +15,6 @@
 #include "sys_context/context.h"
 #include "sys_context/olt.h"
 #include "sys_context/onu.h"
-#include "threads/sweeps.h"
 
 // The card's memory: with AddressSanitizer, more than this cannot be had.
 extern "C" const char* __asan_default_options();
@@ -36,44 +34,6 @@ constexpr std::string_view kNoOpticalModules =
 
 // Some are one in so many.
 constexpr size_t kShares = 8;
-
-// The sweeps of single maps take those of the first main board.
-bool CanAsk(const test::Sweep& sweep) {
-  const std::string_view query = sweep.query;
-  return gstSupportedMainBoardType.ulSupportedBoardTypeNum != 0 ||
-         (query != "ddGetSwitchChipPhyPortFromLogicPort" &&
-          query != "ddGetSwitchChipLogicPortFromPhyPort");
-}
-
-void Ask(size_t first, size_t step) {
-  const std::vector<test::Sweep> sweeps = test::AllSweeps();
-  for (size_t i = first; i < sweeps.size(); i += step) {
-    if (CanAsk(sweeps[i])) {
-      test::Answers answers;
-      sweeps[i].ask(answers);
-      FakePlatform::TakeAsked();
-    }
-  }
-}
-
-// kept as is in the library: a section out of order ends the load, and the records read so far
-// stay in the array but are not counted. Counts them, so that they can be released.
-template <typename Record>
-void CountForgotten(const Faults& faults, Record** records, uint32_t& count) {
-  const auto array = faults.blocks.find(records);
-  if (count != 0 || array == faults.blocks.end()) {
-    return;
-  }
-  const size_t places = array->second / sizeof *records;
-  count = static_cast<uint32_t>(std::find(records, records + places, nullptr) - records);
-}
-
-void ReleaseLost(Faults& faults, std::vector<size_t>& sizes) {
-  for (void* const block : test::LostBlocks(faults)) {
-    sizes.push_back(faults.blocks[block]);
-    std::free(block);
-  }
-}
 
 }  // namespace
 
@@ -95,15 +55,12 @@ Outcome Run(std::string_view bytes, int32_t debug, Queries queries) {
   ShowEverything();
   AskHostileNames();
   if (queries == Queries::kAll) {
-    Ask(0, 1);
+    AskSweeps(0, 1);
   } else {
-    Ask(seed % kShares, kShares);
+    AskSweeps(seed % kShares, kShares);
   }
-  CountForgotten(faults, gstSupportedBoardType.pBoardTypeArray,
-                 gstSupportedBoardType.ulSupportedBoardTypeNum);
-  CountForgotten(faults, gstSupportedOnuType.pOnuTypeArray,
-                 gstSupportedOnuType.ulSupportedOnuTypeNum);
-  ReleaseLost(faults, outcome.lost);
+  test::CountForgotten(faults);
+  outcome.lost = test::ReleaseLost(faults);
   test::ResetTables();
   outcome.left = faults.blocks.size();
   return outcome;

@@ -96,6 +96,11 @@ void FitCards(uint32_t seed) {
   for (uint32_t slot = 0; slot <= MAX_SLOT_END; ++slot) {
     platform.configured_cards[slot] = OneOf(types, draw);
   }
+  const SupportedOnuType& onus = gstSupportedOnuType;
+  if (onus.ulSupportedOnuTypeNum != 0 && Coin(draw)) {
+    const OnuInformation* const onu = onus.pOnuTypeArray[draw() % onus.ulSupportedOnuTypeNum];
+    platform.fitted_onu = static_cast<int32_t>(onu->ulOnuType);
+  }
 }
 
 }  // namespace fuzz

@@ -12,7 +12,7 @@ uint32_t SeedOf(std::string_view bytes);
 // Before the start. The equipment is a chassis that the file describes, if there is one.
 void PreparePlatform(std::string_view bytes, uint32_t seed);
 
-// After it: cards in the slots, of the types that the tables hold.
+// After it: cards in the slots and an ONU, of types that the tables hold.
 void FitCards(uint32_t seed);
 
 }  // namespace fuzz

@@ -1,56 +1,27 @@
-// Every file at hand through the function that the fuzzer calls, with all queries.
+// Every device definition file at hand through the function that the fuzzer calls, with all
+// queries.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include "fuzz/definition_file.h"
+#include "fuzz/files.h"
 #include "support/console.h"
 
 namespace {
 
 using std::string;
-namespace fs = std::filesystem;
-
-struct File {
-  string name;
-  fs::path path;
-  friend std::ostream& operator<<(std::ostream& out, const File& file) { return out << file.name; }
-};
-using Files = std::vector<File>;
-
-// A file for each entry of the folder: the entry itself, or what is at `path` in it.
-Files FilesIn(const fs::path& folder, const fs::path& path = {}) {
-  Files files;
-  if (fs::exists(folder)) {
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-      string name = entry.path().stem().string();
-      std::replace_if(
-          name.begin(), name.end(), [](unsigned char byte) { return std::isalnum(byte) == 0; },
-          '_');
-      files.push_back({name, path.empty() ? entry.path() : entry.path() / path});
-    }
-  }
-  std::sort(files.begin(), files.end(),
-            [](const File& left, const File& right) { return left.name < right.name; });
-  return files;
-}
+using test::File;
+using test::FilesIn;
 
 class Replay : public testing::TestWithParam<File> {
  protected:
   // Runs the file with the debug switch off and on. Whatever it holds, no other block is lost
   // than those that the interface lets go.
   void Run() {
-    std::ifstream file(GetParam().path, std::ios::binary);
-    ASSERT_TRUE(file.is_open());
-    bytes_.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    bytes_ = GetParam().Read();
     for (const int32_t debug : {0, 1}) {
       {
         test::Console console;

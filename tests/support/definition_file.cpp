@@ -1,23 +1,23 @@
-// Definition files for tests, in the folder for temporary files.
+// Definition files for tests, which no folder holds.
 #include "support/definition_file.h"
 
+#include <sys/mman.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <stdexcept>
 
 namespace test {
 
-DefinitionFile::DefinitionFile(std::string_view bytes) : path_("/tmp/sys_context_test_XXXXXX") {
-  const int file = mkstemp(path_.data());
-  if (file < 0 || write(file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
+DefinitionFile::DefinitionFile(std::string_view bytes)
+    : file_(memfd_create("definition_file", MFD_CLOEXEC)),
+      path_("/proc/self/fd/" + std::to_string(file_)) {
+  if (file_ < 0 || write(file_, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
     throw std::runtime_error("cannot write " + path_);
   }
-  close(file);
 }
 
 DefinitionFile::~DefinitionFile() {
-  unlink(path_.c_str());
+  close(file_);
 }
 
 }  // namespace test

@@ -6,7 +6,7 @@
 
 namespace test {
 
-// A temporary file with the given bytes, removed at the end of its life.
+// A file with the given bytes, in memory: nothing of it stays, even when a test is killed.
 class DefinitionFile {
  public:
   explicit DefinitionFile(std::string_view bytes);
@@ -17,6 +17,7 @@ class DefinitionFile {
   const char* path() const { return path_.c_str(); }
 
  private:
+  int file_;
   std::string path_;
 };
 

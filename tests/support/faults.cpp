@@ -210,7 +210,12 @@ size_t __wrap_fread(void* buffer, size_t size, size_t count, FILE* stream) {
     stream->_flags |= 0x20;  // glibc's mark of a read error, which ferror() looks at
     return 0;
   }
-  const size_t read = __real_fread(buffer, size, count, stream);
+  size_t read = __real_fread(buffer, size, count, stream);
+  if (test::current != nullptr && test::current->short_reads.NextFails()) {
+    const size_t given = read / 2;
+    std::memset(static_cast<char*>(buffer) + given * size, '#', (read - given) * size);
+    read = given;
+  }
   if (test::current != nullptr) {
     test::current->bytes_read += read * size;
   }
@@ -218,10 +223,13 @@ size_t __wrap_fread(void* buffer, size_t size, size_t count, FILE* stream) {
 }
 
 int __wrap_fclose(FILE* stream) {
-  if (test::current != nullptr) {
-    ++test::current->closes;
+  if (test::current == nullptr) {
+    return __real_fclose(stream);
   }
-  return __real_fclose(stream);
+  ++test::current->closes;
+  const bool fails = test::current->stream_closes.NextFails();
+  const int result = __real_fclose(stream);
+  return fails ? EOF : result;
 }
 
 int __wrap_open(const char* path, int flags, ...) {

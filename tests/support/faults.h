@@ -26,12 +26,16 @@ class FaultPlan {
   }
   bool NextFails() {
     ++count_;
-    return first_ != 0 && count_ >= first_ && count_ - first_ < calls_;
+    const bool fails = first_ != 0 && count_ >= first_ && count_ - first_ < calls_;
+    failed_ += fails ? 1 : 0;
+    return fails;
   }
   int count() const { return count_; }
+  int failed() const { return failed_; }
 
  private:
   int count_ = 0;
+  int failed_ = 0;
   int first_ = 0;
   int calls_ = 0;
 };
@@ -46,8 +50,10 @@ struct Faults {
 
   FaultPlan allocations;  // malloc and calloc
   FaultPlan opens;
-  FaultPlan reads;  // a failing read gives no byte and sets the stream's error
+  FaultPlan reads;        // a failing read gives no byte and sets the stream's error
+  FaultPlan short_reads;  // such a read gives half of the bytes that there are, and no error
   FaultPlan seeks;
+  FaultPlan stream_closes;  // a failing close closes the stream all the same
   int frees = 0;
   int closes = 0;
   size_t bytes_read = 0;

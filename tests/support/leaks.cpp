@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 #include "sys_context/context.h"
@@ -75,6 +77,16 @@ Blocks ReachableBlocks() {
   return blocks;
 }
 
+template <typename Record>
+void CountRecords(const Faults& faults, Record** records, uint32_t& count) {
+  const auto array = faults.blocks.find(records);
+  if (count != 0 || array == faults.blocks.end()) {
+    return;
+  }
+  const size_t places = array->second / sizeof *records;
+  count = static_cast<uint32_t>(std::find(records, records + places, nullptr) - records);
+}
+
 }  // namespace
 
 std::set<void*> LostBlocks(const Faults& faults) {
@@ -88,6 +100,22 @@ std::set<void*> LostBlocks(const Faults& faults) {
   return lost;
 }
 
+void CountForgotten(const Faults& faults) {
+  CountRecords(faults, gstSupportedBoardType.pBoardTypeArray,
+               gstSupportedBoardType.ulSupportedBoardTypeNum);
+  CountRecords(faults, gstSupportedOnuType.pOnuTypeArray,
+               gstSupportedOnuType.ulSupportedOnuTypeNum);
+}
+
+std::vector<size_t> ReleaseLost(Faults& faults) {
+  std::vector<size_t> sizes;
+  for (void* const block : LostBlocks(faults)) {
+    sizes.push_back(faults.blocks.at(block));
+    std::free(block);
+  }
+  return sizes;
+}
+
 void ExpectNoLeak(const Faults& faults) {
   EXPECT_EQ(LostBlocks(faults), Blocks());
   for (void* const block : ReachableBlocks()) {
@@ -96,11 +124,7 @@ void ExpectNoLeak(const Faults& faults) {
 }
 
 void ExpectAndReleaseLost(Faults& faults, size_t lost) {
-  const Blocks blocks = LostBlocks(faults);
-  EXPECT_EQ(blocks.size(), lost);
-  for (void* const block : blocks) {
-    std::free(block);
-  }
+  EXPECT_EQ(ReleaseLost(faults).size(), lost);
 }
 
 }  // namespace test
