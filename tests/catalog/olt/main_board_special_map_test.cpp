@@ -8,6 +8,24 @@
 
 namespace {
 
+bool succeeds_without_board = false;
+
+}  // namespace
+
+extern "C" {
+
+int32_t __real_ddGetMainBoardObjByType(uint32_t type, MainBoardInformation** board);
+int32_t __wrap_ddGetMainBoardObjByType(uint32_t type, MainBoardInformation** board);
+
+// Stands in front of the query, as a host's own may.
+int32_t __wrap_ddGetMainBoardObjByType(uint32_t type, MainBoardInformation** board) {
+  return succeeds_without_board ? 0 : __real_ddGetMainBoardObjByType(type, board);
+}
+
+}  // extern "C"
+
+namespace {
+
 using std::string;
 
 PortMap* const kMark = reinterpret_cast<PortMap*>(uintptr_t{0x1230});
@@ -34,6 +52,7 @@ class SpecialMapTest : public test::MainBoardTest {
                       {28, ""}});
   }
   void TearDown() override {
+    succeeds_without_board = false;
     gstSupportedBoardType = {};  // its records are this fixture's
     test::MainBoardTest::TearDown();
   }
@@ -216,6 +235,11 @@ TEST_F(SpecialMapTest, CorruptNumberOfMainBoards) {
          "\r\nddGetMainBoardObjByType err!, ulSupportedBoardTypeNum = 101, "
          "MAX_OLT_BOARD_TYPE_NUM = 100" +
              NoMainBoard("-19"));
+}
+
+TEST_F(SpecialMapTest, QueryThatSucceedsWithoutAMainBoard) {
+  succeeds_without_board = true;
+  Expect(10, 20, -1, nullptr, NoMainBoard("0"));
 }
 
 TEST_F(SpecialMapTest, EmptyPlacesAmongTheMainBoards) {
