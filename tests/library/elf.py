@@ -8,10 +8,11 @@ from collections import namedtuple
 Section = namedtuple("Section", "name type flags address offset size link info entry_size")
 Symbol = namedtuple("Symbol", "name value size kind binding visibility section version")
 Relocation = namedtuple("Relocation", "kind symbol")
+ObjectRelocation = namedtuple("ObjectRelocation", "kind symbol addend")
 
-SHF_EXECINSTR = 4
-SHT_NOBITS = 8
-STT_OBJECT, STT_FUNC = 1, 2
+SHF_ALLOC, SHF_EXECINSTR = 2, 4
+SHT_RELA, SHT_NOBITS, SHT_REL = 4, 8, 9
+STT_OBJECT, STT_FUNC, STT_SECTION = 1, 2, 3
 STB_GLOBAL, STB_WEAK = 1, 2
 STV_DEFAULT = 0
 UNDEFINED = 0
@@ -96,6 +97,18 @@ class Elf:
                 else:
                     info = self._unpack("<QQ", at)[1]
                     relocations.append(Relocation(info & 0xFFFFFFFF, names[info >> 32]))
+        return relocations
+
+    def relocations_of(self, section):
+        """Of a relocation section of an object; without addends of their own, they are 0."""
+        symbols = self.symbols(".symtab")
+        layout = {(32, SHT_REL): "<II", (64, SHT_RELA): "<QQq"}[self.bits, section.type]
+        relocations = []
+        for at in range(section.offset, section.offset + section.size, section.entry_size):
+            _, info, *addend = self._unpack(layout, at)
+            kind, symbol = (info & 0xFF, info >> 8) if self.bits == 32 else (
+                info & 0xFFFFFFFF, info >> 32)
+            relocations.append(ObjectRelocation(kind, symbols[symbol], addend[0] if addend else 0))
         return relocations
 
     def _unpack(self, layout, offset):

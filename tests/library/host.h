@@ -9,6 +9,8 @@
 
 #include "sys_context/platform.h"
 
+SYS_CONTEXT_BEGIN
+
 /* Notes a failure, with the line, when the condition does not hold. */
 #define CHECK(condition) check((condition) != 0, #condition, __FILE__, __LINE__)
 void check(int holds, const char* condition, const char* file, int line);
@@ -47,5 +49,7 @@ extern struct Platform platform;
 void catch_console(void);
 /* ... to here. The text is valid until the next call. */
 const char* console_text(void);
+
+SYS_CONTEXT_END
 
 #endif
