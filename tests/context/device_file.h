@@ -8,6 +8,7 @@
 
 #include "support/definition_file.h"
 #include "support/faults.h"
+#include "support/loaders.h"
 
 namespace test {
 
@@ -15,21 +16,8 @@ constexpr char kDeviceFile[] = "/mnt/work/device_definition.ini";
 constexpr char kOpticalFile[] = "/mnt/work/optmodule_definition.ini";
 
 // What start-up loads of the device file, in its order. Before a step, so many are done.
-enum Step : size_t {
-  kVersions,
-  kModules,
-  kFunctions,
-  kPortTypes,
-  kMainBoards,
-  kBoards,
-  kFrame,
-  kOnuPonTypes,
-  kOnuLanTypes,
-  kOnuPotsTypes,
-  kOnuSpecialPortTypes,
-  kOnus,
-  kSteps
-};
+using Step = Loader;
+constexpr size_t kSteps = kOpticalModules;
 constexpr const char* kLoaderNames[] = {"ddReadVersionInformation",
                                         "ddReadAllModuleInformation",
                                         "ddReadSysSupportFuncInformation",
@@ -115,7 +103,7 @@ inline std::string FileBefore(size_t step) {
 }
 
 // Optical modules: one with two paths, one with one.
-constexpr std::string_view kOpticalModules =
+constexpr std::string_view kOpticalPart =
     "[SupportedOptModuleInfo]\nSupportedOptModuleInfoNum=2\n"
     "SupportedOptModuleInfo1=O1\nSupportedOptModuleInfo2=O2\n"
     "[O1]\nPortKind=1\nPortType=2\nPhyType=7\nPathNum=2\n"
@@ -125,7 +113,7 @@ constexpr std::string_view kOpticalModules =
 // Watches the library while the given bytes are its definition files.
 struct DeviceFile {
   explicit DeviceFile(std::string_view bytes = FileBefore(kSteps),
-                      std::string_view optical_bytes = kOpticalModules)
+                      std::string_view optical_bytes = kOpticalPart)
       : file(bytes), optical(optical_bytes) {
     faults.paths[kDeviceFile] = file.path();
     faults.paths[kOpticalFile] = optical.path();

@@ -29,7 +29,8 @@ using test::FileBefore;
 using test::Names;
 using test::optical::NoCount;
 using test::optical::NotLoaded;
-using enum test::Step;
+using enum test::Loader;
+using test::kSteps;
 
 // What the tables of the complete files lead to: ten arrays, two modules, two port
 // types, a main board, two boards, each with an array and a port, the boards of the
@@ -647,7 +648,7 @@ INSTANTIATE_TEST_SUITE_P(Startup, FailingOpticalFile, testing::ValuesIn(kOptical
 
 // The sections of one file are not looked for in the other.
 TEST_F(Startup, TheFilesAreNotMixed) {
-  DeviceFile swapped(test::kOpticalModules, FileBefore(kSteps));
+  DeviceFile swapped(test::kOpticalPart, FileBefore(kSteps));
   EXPECT_EQ(ddInit(), -31);
   swapped.faults.paths[test::kDeviceFile] = swapped.optical.path();
   EXPECT_EQ(ddInit(), -1);
