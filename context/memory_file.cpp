@@ -38,25 +38,39 @@ FetchedFile FetchForMemoryFile(char* image, uint8_t* text) {
   return file;
 }
 
+// The descriptor of the memory file. What the writing leaves open is closed at the end.
+class Descriptor {
+ public:
+  Descriptor() = default;
+  ~Descriptor() {
+    if (number >= 0) {
+      close(number);
+    }
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  int number = -1;
+};
+
 // kept as is: only a failing close is told to the caller, and it is tried twice; one
 // message names /sdram, whatever the path, and one shows a line of code.
-int32_t WriteMemoryFile(const uint8_t* text, uint32_t length) {
+int32_t WriteMemoryFile(const uint8_t* text, uint32_t length, Descriptor& file) {
   constexpr mode_t kNoPermissions = 0;
-  const int descriptor = open(strDeviceDefFilePath, O_RDWR | O_CREAT | O_TRUNC, kNoPermissions);
-  if (descriptor < 0) {
-    Console("Cannot open memory device. fd = %d\r\n", descriptor);
+  file.number = open(strDeviceDefFilePath, O_RDWR | O_CREAT | O_TRUNC, kNoPermissions);
+  if (file.number < 0) {
+    Console("Cannot open memory device. fd = %d\r\n", file.number);
     return kOk;
   }
-  if (write(descriptor, text, length) < static_cast<ssize_t>(length)) {
+  if (write(file.number, text, length) < static_cast<ssize_t>(length)) {
     Console("write %d bytes to /sdram failed!\r\n", length);
-    close(descriptor);
     return kOk;
   }
-  if (close(descriptor) != 0) {
-    Console("iResult = close (fd);, iResult = %d, fd = %d", kNotClosed, descriptor);
-    close(descriptor);
+  if (close(file.number) != 0) {
+    Console("iResult = close (fd);, iResult = %d, fd = %d", kNotClosed, file.number);
     return kNotClosed;
   }
+  file.number = -1;
   return kOk;
 }
 
@@ -66,6 +80,7 @@ int32_t WriteMemoryFile(const uint8_t* text, uint32_t length) {
 int32_t ddReadContextFileToBuf() {
   using namespace sys_context;
   // kept as is: what is not flash, expansion or close is told on the console only.
+  Descriptor memory_file;  // goes behind the buffers
   const auto text = NewArray<uint8_t>(kStoredTextCapacity);
   if (text == nullptr) {
     std::puts("Not enough memory for ftp buffer.\r");
@@ -77,6 +92,8 @@ int32_t ddReadContextFileToBuf() {
     return kOk;
   }
   const FetchedFile file = FetchForMemoryFile(image.get(), text.get());
-  return file.outcome == FetchedFile::Outcome::kDone ? WriteMemoryFile(text.get(), file.text_length)
-                                                     : file.code;
+  if (file.outcome != FetchedFile::Outcome::kDone) {
+    return file.code;
+  }
+  return WriteMemoryFile(text.get(), file.text_length, memory_file);
 }

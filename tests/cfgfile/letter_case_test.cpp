@@ -11,6 +11,28 @@
 
 namespace {
 
+// In this locale 0xe4 and 0xc4 are letters.
+bool has_more_letters = false;
+
+}  // namespace
+
+// The linker's --wrap leads the C library's converters here.
+extern "C" {
+int __real_toupper(int character);
+int __real_tolower(int character);
+int __wrap_toupper(int character);
+int __wrap_tolower(int character);
+
+int __wrap_toupper(int character) {
+  return has_more_letters && character == 0xe4 ? 0xc4 : __real_toupper(character);
+}
+int __wrap_tolower(int character) {
+  return has_more_letters && character == 0xc4 ? 0xe4 : __real_tolower(character);
+}
+}
+
+namespace {
+
 using test::Hex;
 using Converter = int32_t (*)(const char*, uint32_t, char*, uint32_t);
 
@@ -67,6 +89,14 @@ TEST_P(LetterCase, ConvertsEveryByte) {
   std::string destination(256, '#');
   EXPECT_EQ(GetParam().convert(source.data(), 256, destination.data(), 256), 0);
   EXPECT_EQ(destination, expected);
+}
+
+TEST_P(LetterCase, ConvertsTheLettersOfTheLocale) {
+  has_more_letters = true;
+  std::string destination(3, '#');
+  EXPECT_EQ(GetParam().convert("\xc4-\xe4", 3, destination.data(), 3), 0);
+  has_more_letters = false;
+  EXPECT_EQ(destination, GetParam().name == "Upper" ? "\xc4-\xc4" : "\xe4-\xe4");
 }
 
 TEST_P(LetterCase, WritesNoTerminator) {
@@ -168,6 +198,16 @@ TEST_P(LetterCase, YieldsOneTickAfterEach64) {
     EXPECT_EQ(GetParam().convert(source.data(), length, destination.data(), 500), 0);
     EXPECT_EQ(test::FakePlatform::Get().delays, std::vector<int32_t>(yields, 1));
   }
+}
+
+TEST_P(LetterCase, YieldsBeforeItGoesOn) {
+  static std::string destination;
+  static std::vector<size_t> converted;
+  destination.assign(130, '#');
+  converted.clear();
+  test::FakePlatform::Get().on_delay = [] { converted.push_back(destination.find('#')); };
+  EXPECT_EQ(GetParam().convert(std::string(130, 'a').data(), 130, destination.data(), 130), 0);
+  EXPECT_EQ(converted, (std::vector<size_t>{64, 128}));
 }
 
 INSTANTIATE_TEST_SUITE_P(To, LetterCase, testing::ValuesIn(kMembers), MemberName);

@@ -164,4 +164,19 @@ TEST_F(ModuleList, TypeWithoutANameOrAResult) {
   EXPECT_EQ(type, 77u);
 }
 
+TEST_F(ModuleList, RecordsWithACorruptNameLengthHaveNoType) {
+  Put(List::kLoaded);
+  records_[1].ulNameLen = 61;  // the first VLAN
+  uint32_t type = 77;
+  EXPECT_EQ(ddGetModuleTypeByName("VLAN", &type), 0);
+  EXPECT_EQ(type, 5u);
+  records_[4].ulNameLen = 0xffffffff;  // the second one
+  type = 77;
+  EXPECT_EQ(ddGetModuleTypeByName("VLAN", &type), -32);
+  EXPECT_EQ(type, 77u);
+  records_[4].ulNameLen = 60;
+  EXPECT_EQ(ddGetModuleTypeByName("VLAN", &type), 0);
+  EXPECT_EQ(type, 5u);
+}
+
 }  // namespace

@@ -81,6 +81,17 @@ const MatchRow kMatches[] = {
 INSTANTIATE_TEST_SUITE_P(Versions, VersionMatch, testing::ValuesIn(kMatches),
                          testing::PrintToStringParamName());
 
+TEST_F(VersionMatch, EntriesWithACorruptLengthMatchNothing) {
+  Put({"KT2200V4.0"});
+  gstrddSoftwareVer = "KT2200V4.0";
+  for (const auto& [length, matches] : {std::pair{100u, true}, {101u, false}, {~0u, false}}) {
+    gstVersionInformation.astSupportedSoftVer[0].ulSupportedSoftVerLen = length;
+    uint32_t supported = 77;
+    EXPECT_EQ(ddIsContextVerMatchSoftVer(&supported), matches ? 0 : -1);
+    EXPECT_EQ(supported, matches ? 1u : 0u);
+  }
+}
+
 struct LoadedRow {
   const char* name;
   const char* file;

@@ -104,6 +104,9 @@ int32_t bep_taskDelayEx(int32_t ticks) {
   FakePlatform& platform = FakePlatform::Get();
   platform.delays.push_back(ticks);
   platform.shown_before_delays.push_back(platform.terminal.size());
+  if (platform.on_delay != nullptr) {
+    platform.on_delay();
+  }
   return 0;
 }
 

@@ -55,6 +55,7 @@ struct FakePlatform {
   // at that time.
   std::vector<int32_t> delays;
   std::vector<size_t> shown_before_delays;
+  void (*on_delay)() = nullptr;
 
   // Card kinds: the types that are of each, and what the others are answered.
   std::set<int16_t> pon_cards;

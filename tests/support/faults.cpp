@@ -274,6 +274,7 @@ int __wrap_close(int descriptor) {
     return __real_close(descriptor);
   }
   const test::DescriptorCall call("close " + std::to_string(descriptor));
+  call->blocks_at_closes.push_back(call->blocks.size());
   return call->descriptor_closes.NextFails() ? -1 : 0;
 }
 

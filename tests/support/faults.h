@@ -80,6 +80,7 @@ struct Faults {
   std::vector<std::string> descriptor_calls;
   std::map<std::string, std::string> written;
   std::vector<std::string> descriptors;  // the path of each
+  std::vector<size_t> blocks_at_closes;  // how many were not freed at each "close"
 
   // Called when a block of the library is freed, before that is done.
   void (*on_free)(void* block, size_t size) = nullptr;

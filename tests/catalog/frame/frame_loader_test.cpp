@@ -265,4 +265,22 @@ TEST_F(FrameLoader, ASecondLoadReleasesTheFirstRows) {
   EXPECT_TRUE(faults.blocks.empty());
 }
 
+// Its real slots may go beyond the rows of the first.
+TEST_F(FrameLoader, ASecondLoadThatFailsAmongTheSlotsReleasesTheFirstRows) {
+  test::Faults faults;
+  gstFrame = {};
+  ASSERT_EQ(Load(test::kFrameSection), 0);
+  ASSERT_EQ(faults.blocks.size(), 1u);
+  string section = Replaced(test::kFrameSection, "RealSlotList=1,2,4", "RealSlotList=1,2,99");
+  EXPECT_EQ(Load(Replaced(section, "VirtualSlotNum=2\n", "")), -31);
+  EXPECT_EQ(console_.Text(),
+            "\r\nddReadOneSlotClass err! iResult = -2, section = KT3300-L_FrameInfomation, key = "
+            "VirtualSlotNum"
+            "\r\nddReadFrameInformation->ddReadOneSlotClass err! iResult = -31, "
+            "strSectionFrameNameBuf = KT3300-L_FrameInfomation, Key = VirtualSlot");
+  EXPECT_EQ(gstFrame.stRealSlot.ulSlotEnd, 99u);
+  EXPECT_EQ(gstFrame.pstSlotArray, nullptr);
+  EXPECT_TRUE(faults.blocks.empty());
+}
+
 }  // namespace

@@ -222,6 +222,21 @@ TEST_F(BalanceUserPorts, PrintWhichHasNoNumber) {
   Expect(get_balance_user_port_switch_logicportlist, expected, 2, Lines::kAll);
 }
 
+// Both classes are asked about each slot, and twice: to count and to list.
+TEST_F(BalanceUserPorts, PrintWhichSlotsAreInNoClass) {
+  PutLogicPorts(vector(9, LogicPortOf(1, 1)));
+  PutSlots(&FrameInformation::stUplinkSlot, {6});
+  PutBalancePorts({BalancePortOf(8, 0), BalancePortOf(6, 0), BalancePortOf(5, 0)});
+  const string lines =
+      "\r\nddIsServeBoardSlot->ddIsSlotInSlotList err! iResult = -4, ulSlotOut = 8"
+      "\r\nddIsUplinkBoardSlot->ddIsSlotInSlotList err! iResult = -4, ulSlotOut = 8"
+      "\r\nddIsServeBoardSlot->ddIsSlotInSlotList err! iResult = -4, ulSlotOut = 6"
+      "\r\nddIsUplinkBoardSlot->ddIsSlotInSlotList err! iResult = -4, ulSlotOut = 5";
+  ListAnswer expected{.array = ArrayFor(2), .count = 2, .text = lines + lines};
+  expected.array = {2, 3};
+  Expect(get_balance_user_port_switch_logicportlist, expected, 2, Lines::kAll);
+}
+
 TEST_F(BalanceUserPorts, CorruptClassesHaveNoSlot) {
   PutLogicPorts(vector(9, LogicPortOf(1, 1)));
   PutSlots(&FrameInformation::stServeBoardSlot, {6});

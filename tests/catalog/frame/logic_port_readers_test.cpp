@@ -311,6 +311,16 @@ const Type2Row kType2[] = {
 INSTANTIATE_TEST_SUITE_P(MapReader, Type2Numbers, testing::ValuesIn(kType2),
                          testing::PrintToStringParamName());
 
+TEST_F(MapReaderTest, AnOldEntryStaysWhenItsKeyIsMissing) {
+  for (const test::MapKind& kind : kMaps) {
+    ClearMaps();
+    ASSERT_EQ(Read(kind, For(kind, "@Num=2\n@1=3,5~,1\n@2=4,1~,0\n")), 0);
+    EXPECT_EQ(Read(kind, For(kind, "@Num=2\n@1=5,6~,0\n")), 0);
+    EXPECT_EQ(kind.shown(), For(kind, "5/6^/0 4/1^/0"));
+    EXPECT_EQ(console_.Text(), For(kind, NoKey("-2", "2")));
+  }
+}
+
 TEST_F(MapReaderTest, Type2KeysBehindTheGapAreNamedByTheirNumbers) {
   EXPECT_EQ(Read(kMaps[1], test::Replaced(Type2Keys("59"), "LogicPort200=", "LogicPort204=")), 0);
   EXPECT_EQ(console_.Text(), For(kMaps[1], NoKey("-2", "200")) + NoNumber("58"));
