@@ -32,7 +32,7 @@ extern SYS_CONTEXT_API const char* strDeviceDefFilePath;
  * releasing them.
  * Returns 0, -1 without memory for the work buffer, or the code of the first
  * loader that failed (of the optical modules: optmodule.h); the tables before it are then
- * loaded, the others empty.
+ * loaded, those behind it empty. Its own holds no records, or, of the frame, what was read.
  */
 SYS_CONTEXT_API int32_t ddInit(void);
 

@@ -30,7 +30,7 @@ constexpr const char* kListSections[] = {"Version",
                                          "SupportedOnuSpecialPortType",
                                          "SupportedOnuType",
                                          "SupportedOptModuleInfo"};
-static_assert(std::size(kListSections) == kLoaders);
+static_assert(std::size(kListSections) == kLoaderCount);
 
 // Keys whose values name records of other tables.
 struct Reference {

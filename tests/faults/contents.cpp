@@ -233,7 +233,7 @@ Contents Contents::Take(const std::vector<std::string>& frame_keys) {
 }
 
 std::string Difference(const Contents& expected, const Contents& actual) {
-  for (size_t i = 0; i < kLoaders; ++i) {
+  for (size_t i = 0; i < kLoaderCount; ++i) {
     if (const std::string difference = DifferenceOf(expected.tables[i], actual.tables[i]);
         !difference.empty()) {
       return "table " + std::to_string(i) + " has " + difference;

@@ -26,7 +26,7 @@ struct Table {
 
 // The tables in the order of their loaders.
 struct Contents {
-  std::array<Table, kLoaders> tables;
+  std::array<Table, kLoaderCount> tables;
 
   // Of the frame, a record for each of the keys: what the key is read into.
   static Contents Take(const std::vector<std::string>& frame_keys);

@@ -143,7 +143,7 @@ class ShortReads : public DefinitionFiles {
     cut_values_ += is_cut ? 1 : 0;
     Tape::Get().Replay(number, number + 1);
     Start({&test::Faults::short_reads, call, Times::kOnce}, prediction, Next(),
-          is_cut ? LoaderOf(number) : kLoaders);
+          is_cut ? LoaderOf(number) : kLoaderCount);
     ASSERT_EQ(Tape::Get().first_answers().size(), 1u);
     EXPECT_TRUE(Tape::Get().first_answers().front() == answer)
         << Tape::Get().first_answers().front().code << " " << answer.code;

@@ -109,8 +109,8 @@ FrameProgress ProgressAt(const Event* end) {
 Contents ContentsAt(const Event* end, const LeftOut& left_out) {
   const Contents& clean = CleanStart::Get().contents;
   Contents contents;
-  const size_t failing = end == nullptr ? kLoaders : end->loader;
-  for (size_t i = 0; i < kLoaders; ++i) {
+  const size_t failing = end == nullptr ? kLoaderCount : end->loader;
+  for (size_t i = 0; i < kLoaderCount; ++i) {
     const auto loader = static_cast<Loader>(i);
     if (loader == kFrame) {
       const FrameProgress progress = ProgressAt(end);

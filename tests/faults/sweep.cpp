@@ -53,11 +53,11 @@ int32_t Sweep::Start(const Fault& fault, const Prediction& prediction, Then then
     EXPECT_EQ(Difference(before, Contents::Take(CleanStart::Get().frame_keys)), "");
   }
   EXPECT_GT(plan.failed(), 0) << "there was no such call";
-  if (prediction.forgets || known < kLoaders) {
+  if (prediction.forgets || known < kLoaderCount) {
     test::CountForgotten(faults);
   }
   Contents contents = Contents::Take(CleanStart::Get().frame_keys);
-  if (known == kLoaders) {
+  if (known == kLoaderCount) {
     EXPECT_EQ(code, prediction.code);
     EXPECT_EQ(Difference(prediction.contents, contents), "");
   } else {

@@ -37,7 +37,7 @@ class Sweep : public test::LibraryTest {
   // before `known` go (and all else only if that is all of them). Returns the code of
   // ddReadContextFileToBuf.
   int32_t Start(const Fault& fault, const Prediction& prediction, Then then,
-                size_t known = kLoaders);
+                size_t known = kLoaderCount);
 
   // Says how many faults there were.
   void Tell(const std::string& kind, size_t step = 1);

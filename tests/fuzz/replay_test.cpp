@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "fuzz/definition_file.h"
+#include "fuzz/definition_file_run.h"
 #include "fuzz/files.h"
 #include "support/console.h"
 

@@ -11,7 +11,7 @@ namespace mutated {
 
 using Place = test::Loader;
 using enum test::Loader;
-inline constexpr Place kNone = kLoaders;  // behind the last one: no loader failed
+inline constexpr Place kNone = kLoaderCount;  // behind the last one: no loader failed
 
 struct Loader {
   std::string_view name;

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "fuzz/ask_sweeps.h"
-#include "fuzz/definition_file.h"
+#include "fuzz/definition_file_run.h"
 #include "fuzz/hostile_names.h"
 #include "fuzz/platform.h"
 #include "fuzz/show.h"

@@ -20,7 +20,7 @@ enum Loader : uint32_t {
   kOnuSpecialPortTypes,
   kOnus,
   kOpticalModules,
-  kLoaders
+  kLoaderCount
 };
 
 }  // namespace test
