@@ -67,8 +67,10 @@ set_target_properties(sys_context PROPERTIES
 
 # The host provides the platform functions, so the library itself cannot be
 # linked with -z defs. This twin can: it holds stand-ins for exactly those, and
-# links only while the library needs nothing else. Nobody loads it.
-sys_context_library(sys_context_needs_only_the_platform ${PROJECT_SOURCE_DIR}/abi/platform_symbols.c)
-if(NOT SYS_CONTEXT_SANITIZED)
+# links only while the library needs nothing else. Nobody loads it. A sanitizer
+# needs symbols of its own.
+if(SYS_CONTEXT_TESTS AND NOT SYS_CONTEXT_SANITIZED)
+  sys_context_library(sys_context_needs_only_the_platform
+    ${PROJECT_SOURCE_DIR}/abi/platform_symbols.c)
   target_link_options(sys_context_needs_only_the_platform PRIVATE -Wl,-z,defs)
 endif()
