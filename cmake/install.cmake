@@ -86,7 +86,8 @@ foreach(page README CHANGELOG CONTRIBUTING)
 endforeach()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
-  COMPONENT docs)
+  COMPONENT docs
+  REGEX "/examples/minimal-host/(build|minimal-host|[^/]*\\.o)$" EXCLUDE)  # built there
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT docs

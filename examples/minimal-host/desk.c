@@ -20,7 +20,6 @@ void use_work_folder(const char* folder) {
   work_folder = folder;
 }
 
-/* The library only reads. */
 FILE* fopen(const char* restrict path, const char* restrict mode) {
   char moved[4096];
   if (strncmp(path, kOnTheCard, sizeof kOnTheCard - 1) == 0) {

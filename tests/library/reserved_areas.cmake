@@ -1,8 +1,6 @@
 # The reserved areas of every library that firmware may get: of both compilers, for both
 # processors, optimised and not. Each test builds its library, and nothing else, in a
 # folder of its own. Which there are is settled here, by the compilers that are found.
-option(SYS_CONTEXT_EVERY_COMPILER "Fail where a compiler of the library tests is missing" OFF)
-
 find_program(SYS_CONTEXT_CLANG clang++)
 find_program(SYS_CONTEXT_ARM_GCC arm-linux-gnueabihf-g++)  # whose linker and libc Clang needs, too
 

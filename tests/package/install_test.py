@@ -9,19 +9,20 @@ and a library folder named lib.
 
 from __future__ import annotations
 
+import re
 import sys
 import tempfile
 import unittest
 from pathlib import Path
 
-from run import (CONSUMER_OUTPUT, HEADERS, SAMPLES, SOURCE, build_consumers, docs_below,
+from run import (CONSUMER_OUTPUT, HEADERS, SAMPLES, SOURCE, VERSION, build_consumers, docs_below,
                  files_below, run)
 
 BUILD = Path(sys.argv.pop(1)).resolve()
 LIBRARY_BUILD = Path(sys.argv.pop(1)).resolve()
 
 COMPONENTS = {
-    "library": ["lib/libsys_context.so.1", "lib/libsys_context.so.1.0.0"],
+    "library": ["lib/libsys_context.so.1", f"lib/libsys_context.so.{VERSION}"],
     "development": [
         *HEADERS,
         "lib/cmake/sys_context/sys_context-config-version.cmake",
@@ -33,6 +34,12 @@ COMPONENTS = {
     "sysctx": ["bin/sysctx", *SAMPLES, "share/man/man1/sysctx.1"],
     "docs": docs_below("share/doc/sys_context"),
 }
+
+
+def links_of(page: Path) -> list[str]:
+    """The files and folders that a page links to, as they stand in it."""
+    targets = (target.split("#")[0] for target in re.findall(r"\]\(([^)]*)\)", page.read_text()))
+    return [target for target in targets if target and "://" not in target]
 
 
 class Scratch(unittest.TestCase):
@@ -61,6 +68,17 @@ class Components(Scratch):
             COMPONENTS["library"] + COMPONENTS["development"] + COMPONENTS["docs"]))
 
 
+class Pages(Scratch):
+    def test_link_to_what_is_installed(self) -> None:
+        run("cmake", "--install", LIBRARY_BUILD, "--prefix", self.folder, "--component", "docs")
+        self.assertIn("docs/integration.md",
+                      links_of(self.folder / "share/doc/sys_context/README.md"))
+        dead = [f"{page.relative_to(self.folder)}: {link}"
+                for page in self.folder.rglob("*.md") for link in links_of(page)
+                if not (page.parent / link).exists()]
+        self.assertEqual(dead, [])
+
+
 class Moved(Scratch):
     def setUp(self) -> None:
         super().setUp()
@@ -84,7 +102,7 @@ class Moved(Scratch):
         return said, build
 
     def test_pkg_config_finds_it(self) -> None:
-        self.assertEqual(self.pkg_config("--modversion"), ["1.0.0"])
+        self.assertEqual(self.pkg_config("--modversion"), [VERSION])
         flags = self.pkg_config("--cflags", "--libs")
         for flag, folder in zip(flags, (self.prefix / "include", self.libraries)):
             self.assertTrue(Path(flag[2:]).samefile(folder), flag)
@@ -122,13 +140,14 @@ class Moved(Scratch):
         (source / "CMakeLists.txt").write_text(
             "cmake_minimum_required(VERSION 3.21)\nproject(too_new LANGUAGES C)\n"
             "find_package(sys_context 2.0 REQUIRED)\n")
-        with self.assertRaisesRegex(AssertionError, "sys_context-config.cmake, version: 1.0.0"):
+        with self.assertRaisesRegex(AssertionError,
+                                    f"sys_context-config.cmake, version: {VERSION}"):
             self.cmake(source)
 
     def test_sysctx_finds_its_library_and_the_large_sample(self) -> None:
         sysctx = self.prefix / "bin/sysctx"
         root = self.prefix / "share/sysctx/definitions/kt3300-l"
-        self.assertEqual(run(sysctx, "--version"), "sysctx 1.0.0\n")
+        self.assertEqual(run(sysctx, "--version"), f"sysctx {VERSION}\n")
         self.assertIn(f"\nroot: {root.resolve()}\n", run(sysctx))
         self.assertIn("KT3300V4.0", run(sysctx, "run", "show context version"))
         link = self.folder / "link"
@@ -149,6 +168,14 @@ class Subproject(Scratch):
         run("cmake", "--build", self.folder, "--parallel", "2")
         self.assertEqual(run(self.folder / "consumer"), CONSUMER_OUTPUT)
         self.assertIn("CMAKE_BUILD_TYPE:STRING=\n", (self.folder / "CMakeCache.txt").read_text())
+
+
+class Changelogs(unittest.TestCase):
+    def test_begin_with_this_version(self) -> None:
+        headings = re.findall("^## .*", (SOURCE / "CHANGELOG.md").read_text(), re.MULTILINE)
+        self.assertEqual(headings[0].split()[1], VERSION)
+        debian = (SOURCE / "packaging/debian/changelog").read_text()
+        self.assertEqual(debian.split()[:2], ["sys-context", f"({VERSION}-1)"])
 
 
 class ManPage(unittest.TestCase):

@@ -13,11 +13,11 @@ import unittest
 from dataclasses import dataclass
 from pathlib import Path
 
-from run import (CONSUMER, CONSUMER_OUTPUT, HEADERS, SAMPLES, SOURCE, STAND_INS, docs_below,
-                 files_below, run)
+from run import (CONSUMER, CONSUMER_OUTPUT, HEADERS, SAMPLES, SOURCE, STAND_INS, VERSION,
+                 docs_below, files_below, run)
 
 FOLDER = Path(sys.argv.pop(1)).resolve()
-VERSION = "1.0.0-1"
+PACKAGE_VERSION = f"{VERSION}-1"
 SYSROOT = FOLDER / "build/armhf-sysroot"
 
 # Tags that lintian may say, and why nothing is done about them.
@@ -35,10 +35,10 @@ class Machine:
     depends: dict[str, list[str]]
 
     def deb(self, package: str) -> Path:
-        return FOLDER / f"{package}_{VERSION}_{self.name}.deb"
+        return FOLDER / f"{package}_{PACKAGE_VERSION}_{self.name}.deb"
 
 
-LIBRARY = f"libsys-context1 (= {VERSION})"
+LIBRARY = f"libsys-context1 (= {PACKAGE_VERSION})"
 MACHINES = [
     Machine("amd64", "x86_64-linux-gnu", "gcc", (), {
         "libsys-context1": ["libc6 (>= 2.14)"],
@@ -69,7 +69,7 @@ def expected_files(machine: Machine, package: str) -> list[str]:
     libraries = f"lib/{machine.triplet}"
     files = {
         "libsys-context1": [
-            f"{libraries}/libsys_context.so.1", f"{libraries}/libsys_context.so.1.0.0"],
+            f"{libraries}/libsys_context.so.1", f"{libraries}/libsys_context.so.{VERSION}"],
         "libsys-context-dev": [
             *HEADERS,
             f"{libraries}/cmake/sys_context/sys_context-config-version.cmake",
@@ -113,7 +113,7 @@ class Packages(unittest.TestCase):
     def test_say_what_they_are(self) -> None:
         sections = {"libsys-context1": "libs", "libsys-context-dev": "libdevel", "sysctx": "utils"}
         for machine, package in EACH:
-            for field, value in (("Package", package), ("Version", VERSION),
+            for field, value in (("Package", package), ("Version", PACKAGE_VERSION),
                                  ("Architecture", machine.name), ("Priority", "optional"),
                                  ("Section", sections[package])):
                 with self.subTest(machine=machine.name, package=package, field=field):
@@ -126,6 +126,7 @@ class Packages(unittest.TestCase):
                                  machine.depends[package])
 
     def test_library_has_its_control_files(self) -> None:
+        # 1.0.0 is not this version, but the one since which all symbols are there.
         for machine in MACHINES:
             with self.subTest(machine.name):
                 deb = machine.deb("libsys-context1")
@@ -148,7 +149,7 @@ class Packages(unittest.TestCase):
                 sysctx = [*machine.emulator, usr / "bin/sysctx"]
                 libraries = usr / "lib" / machine.triplet
                 self.assertEqual(run(*sysctx, "--version", LD_LIBRARY_PATH=libraries),
-                                 "sysctx 1.0.0\n")
+                                 f"sysctx {VERSION}\n")
                 self.assertIn("acSupportedSoftVer = KT3300V4.0",
                               run(*sysctx, "run", "show context version",
                                   LD_LIBRARY_PATH=libraries))

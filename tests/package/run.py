@@ -1,12 +1,15 @@
-"""What both tests of the packages use."""
+"""What the tests of the packages and of the recipes use."""
 
 from __future__ import annotations
 
 import os
+import re
 import subprocess
 from pathlib import Path
 
 SOURCE = Path(__file__).resolve().parent.parent.parent
+VERSION = re.search(r"project\(sys_context VERSION ([\d.]+)",
+                    (SOURCE / "CMakeLists.txt").read_text())[1]
 STAND_INS = SOURCE / "abi/platform_symbols.c"
 CONSUMER = SOURCE / "tests/package/consumer.c"
 CONSUMER_OUTPUT = "ddIsRealSlot 0: -4\n"

@@ -9,34 +9,19 @@ use of them. What is built goes into FOLDER.
 
 from __future__ import annotations
 
-import re
-import subprocess
 import sys
 import tarfile
 import unittest
 from pathlib import Path
 
+sys.path.append(str(Path(__file__).resolve().parents[1] / "package"))
 import recipe
+from run import SOURCE, VERSION, files_below, run
 
 HERE = Path(__file__).resolve().parent
-SOURCE = HERE.parent.parent
 BUILDROOT = SOURCE / "packaging/buildroot/package/sys-context"
 TARBALL = Path(sys.argv.pop(1)).resolve()
 FOLDER = Path(sys.argv.pop(1)).resolve()
-VERSION = re.search(r"project\(sys_context VERSION ([\d.]+)",
-                    (SOURCE / "CMakeLists.txt").read_text())[1]
-
-
-def run(*command: str | Path) -> str:
-    result = subprocess.run(command, capture_output=True, text=True)
-    if result.returncode != 0:
-        raise AssertionError(f"{' '.join(map(str, command))}\n{result.stdout}{result.stderr}")
-    return result.stdout
-
-
-def files_below(folder: Path) -> list[str]:
-    return sorted(f"/{path.relative_to(folder)}" for path in folder.rglob("*")
-                  if not path.is_dir() or path.is_symlink())
 
 
 class Buildroot(unittest.TestCase):
@@ -47,12 +32,12 @@ class Buildroot(unittest.TestCase):
             f"TOOLCHAIN={SOURCE / 'cmake/arm-linux-gnueabihf.cmake'}", f"WORK={work}")
         for folder in ("staging", "target"):
             files = files_below(work / folder)
-            for file in (f"/usr/lib/libsys_context.so.{VERSION}", "/usr/lib/libsys_context.so.1",
-                         "/usr/lib/libsys_context.so", "/usr/include/sys_context/context.h",
-                         "/usr/lib/pkgconfig/sys_context.pc",
-                         "/usr/lib/cmake/sys_context/sys_context-config.cmake"):
+            for file in (f"usr/lib/libsys_context.so.{VERSION}", "usr/lib/libsys_context.so.1",
+                         "usr/lib/libsys_context.so", "usr/include/sys_context/context.h",
+                         "usr/lib/pkgconfig/sys_context.pc",
+                         "usr/lib/cmake/sys_context/sys_context-config.cmake"):
                 self.assertIn(file, files, folder)
-            self.assertNotIn("/usr/bin/sysctx", files, folder)
+            self.assertNotIn("usr/bin/sysctx", files, folder)
         library = work / "target/usr/lib/libsys_context.so.1"
         self.assertIn("Machine:                           ARM", run("readelf", "-h", library))
         # By the names that hosts put functions in front of, whatever the flags.
@@ -89,9 +74,10 @@ class Yocto(unittest.TestCase):
             "-DCMAKE_INSTALL_PREFIX=/usr", "-DCMAKE_INSTALL_LIBDIR=lib",
             *self.expanded("EXTRA_OECMAKE").split(), enabled)
         run("cmake", "--build", work / "build")
-        run("env", f"DESTDIR={work / 'image'}", "cmake", "--install", work / "build")
+        run("cmake", "--install", work / "build", DESTDIR=work / "image")
 
-        packages = recipe.files_of_packages(self.values, files_below(work / "image"))
+        files = [f"/{file}" for file in files_below(work / "image")]
+        packages = recipe.files_of_packages(self.values, files)
         self.assertEqual(packages.get("", []), [])
         self.assertEqual(packages["sys-context"], [
             "/usr/lib/libsys_context.so.1", f"/usr/lib/libsys_context.so.{VERSION}"])
