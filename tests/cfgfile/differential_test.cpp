@@ -7,10 +7,12 @@
 #include <cstdio>
 #include <cstring>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cfgfile/generated_files.h"
+#include "cfgfile/library_answer.h"
 #include "cfgfile/plain_reader.h"
 #include "support/definition_file.h"
 #include "support/faults.h"
@@ -24,7 +26,6 @@ using generated::Random;
 
 constexpr char kMemoryPath[] = "memory";
 constexpr char kUntouched = '\x5A';
-constexpr int32_t kUnwritten = -77;
 constexpr int32_t kMaxima[] = {1, 2, 5, 511, 512, 513};
 
 std::string Escaped(std::string_view bytes) {
@@ -66,29 +67,10 @@ std::string Show(const Question& question) {
          (question.with_offset ? ", from " + std::to_string(question.offset_in) : "");
 }
 
-// What the library answers; an untouched value or offset is absent.
 plain::Answer Ask(const char* path, const Question& question) {
-  CFG_section_line_no = CFG_key_line_no = CFG_key_lines = kUnwritten;
-  std::array<char, CFG_VALUE_SIZE> value;
-  value.fill(kUntouched);
-  const std::array<char, CFG_VALUE_SIZE> untouched = value;
-  int32_t offset = kUnwritten;
-  plain::Answer answer;
-  answer.code =
-      question.with_offset
-          ? CFG_get_key_offset(path, question.section.c_str(), question.key.c_str(), value.data(),
-                               question.offset_in, &offset)
-          : CFG_get_key(path, question.section.c_str(), question.key.c_str(), value.data());
-  if (value != untouched) {
-    answer.value.emplace(value.data(), strnlen(value.data(), value.size()));
-  }
-  if (offset != kUnwritten) {
-    answer.offset = offset;
-  }
-  answer.section_line_no = CFG_section_line_no;
-  answer.key_line_no = CFG_key_line_no;
-  answer.key_lines = CFG_key_lines;
-  return answer;
+  return plain::AnswerOfLibrary(
+      path, question.section.c_str(), question.key.c_str(),
+      question.with_offset ? std::optional(question.offset_in) : std::nullopt);
 }
 
 // The files of a test, which are in memory unless a path says otherwise.
